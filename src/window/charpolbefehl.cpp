@@ -1,0 +1,7 @@
+#include "window/viewcontroller.h"
+
+namespace tabulon {
+
+void ViewController::charPol() {}
+
+} // namespace tabulon

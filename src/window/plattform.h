@@ -1,0 +1,34 @@
+#pragma once
+// What the window model needs of a window system, and nothing more. The Qt desktop window, the
+// script driver tabulon-skript and the tests each implement it.
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace tabulon {
+
+class Plattform {
+public:
+    // The modal question's results, as the platform's alert reports them.
+    static constexpr int ersterKnopf = 1000;
+    static constexpr int zweiterKnopf = 1001;
+
+    virtual ~Plattform() = default;
+
+    // The system beep: a refused action.
+    virtual void piep() = 0;
+    // A modal question with two buttons in this order; ersterKnopf, zweiterKnopf or anything
+    // else for an unexpected result.
+    virtual int frage(const std::string& nachricht, const std::string& option1,
+                      const std::string& option2) = 0;
+    // A uniformly distributed integer from 0 to grenze - 1.
+    virtual std::uint32_t zufallUnter(std::uint32_t grenze) = 0;
+    // Ends the process at once with this status. An implementation for tests may return.
+    virtual void beenden(int status) = 0;
+    // The user's documents folder, created when missing; nothing when it cannot be determined.
+    virtual std::optional<std::filesystem::path> dokumentenOrdner() = 0;
+};
+
+} // namespace tabulon
