@@ -29,8 +29,8 @@ void listenZustandZuruecksetzen();
 
 // The fixed tables.
 inline const std::string lf = "\n";
-const std::set<std::string>& alphabetGross();           // "A" ... "Z"
-const std::array<std::string, 27>& grossBuchstaben();   // "A" ... "Z", then "?"
+const std::set<std::string>& alphabetGross();         // "A" ... "Z"
+const std::array<std::string, 27>& grossBuchstaben(); // "A" ... "Z", then "?"
 
 bool istMatrixName(const std::string& name);
 std::pair<std::string, bool> auslisten(const std::string& name);
