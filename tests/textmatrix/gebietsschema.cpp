@@ -11,6 +11,8 @@ public:
     void SetUp() override {
         ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr)
             << "the locale de_DE.UTF-8 is missing (scripts/einrichten.sh generates it)";
+        // Without a comma here the number tests would prove nothing about locale independence.
+        ASSERT_STREQ(std::localeconv()->decimal_point, ",");
     }
     void TearDown() override { std::setlocale(LC_ALL, "C"); }
 };

@@ -1,0 +1,141 @@
+#include "textmatrix/liste.h"
+#include "textmatrix/smatrix_drucken.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace tabulon {
+namespace {
+
+class Liste : public ::testing::Test {
+protected:
+    void SetUp() override { listenZustandZuruecksetzen(); }
+    void TearDown() override { listenZustandZuruecksetzen(); }
+
+    static SMatrix eins(const char* wert) {
+        SMatrix m(1, 1);
+        m(0, 0) = wert;
+        return m;
+    }
+    static void fuelle(int anzahl) {
+        for (int i = 0; i < anzahl; ++i) {
+            ASSERT_TRUE(eins("1").einlistenAls(std::string(1, static_cast<char>('A' + i))).second);
+        }
+    }
+};
+
+TEST_F(Liste, Startwerte) {
+    const ListenZustand& z = listenZustand();
+    EXPECT_TRUE(z.sMatrixListe.empty());
+    EXPECT_EQ(z.smNamen, alphabetGross());
+    EXPECT_EQ(alphabetGross().size(), 26u);
+    EXPECT_EQ(grossBuchstaben().front(), "A");
+    EXPECT_EQ(grossBuchstaben()[25], "Z");
+    EXPECT_EQ(grossBuchstaben().back(), "?");
+    EXPECT_EQ(z.dezimalen, 6);
+    EXPECT_FALSE(z.ueberschreiben);
+    EXPECT_EQ(z.zaehler, 0);
+    EXPECT_EQ(naechsterFreierName(), "A");
+    EXPECT_EQ(aktuelleListe(), "");
+}
+
+TEST_F(Liste, EinlistenMeldungen) {
+    SMatrix leer(3, 3);
+    leer(1, 1) = "        ";
+    listenZustand().ueberschreiben = true;
+    EXPECT_EQ(leer.einlistenAls("A"),
+              std::make_pair(std::string("Es ist keine Matrix vorhanden - nur Leere"), false));
+    EXPECT_TRUE(listenZustand().sMatrixListe.empty());
+    listenZustand().ueberschreiben = false;
+
+    EXPECT_EQ(
+        eins("1").einlistenAls("B"),
+        std::make_pair(
+            std::string("Die Tableau-Matrix wurde unter dem Namen B in die Liste eingetragen."),
+            true));
+    EXPECT_EQ(eins("2").einlistenAls("B"),
+              std::make_pair(std::string("Der Name 'B' ist als Matrixname nicht mehr verfügbar."),
+                             false));
+    EXPECT_EQ(listenZustand().sMatrixListe.at("B"), eins("1"));
+
+    listenZustand().ueberschreiben = true;
+    EXPECT_EQ(eins("2").einlistenAls("B"),
+              std::make_pair(std::string("Die alte Matrix B wurde überschrieben.\n"
+                                         "Die Tableau-Matrix wurde unter dem Namen B in die "
+                                         "Liste eingetragen."),
+                             true));
+    EXPECT_EQ(listenZustand().sMatrixListe.at("B"), eins("2"));
+}
+
+TEST_F(Liste, EinlistenEntferntLeereZeilenVorDemAuffuellen) {
+    SMatrix m(3, 3);
+    m(0, 0) = "1";
+    m(0, 1) = "2";
+    m(0, 2) = "         ";
+    m(2, 0) = "3";
+    m(2, 1) = "   ";
+    m(2, 2) = "9";
+    const SMatrix vorher = m;
+    ASSERT_TRUE(m.einlistenAls("C").second);
+    EXPECT_EQ(m, vorher);
+    SMatrix erwartet(2, 3);
+    erwartet.grid = {"1", "2", "         ", "3", "0.0", "9"};
+    EXPECT_EQ(listenZustand().sMatrixListe.at("C"), erwartet);
+    EXPECT_EQ(listenZustand().smNamen.count("C"), 0u);
+    EXPECT_TRUE(istMatrixName("C"));
+    EXPECT_FALSE(SMatrix::freierMatrixname("C"));
+}
+
+TEST_F(Liste, NamenAusserhalbDesAlphabetsSindNieFrei) {
+    for (const char* name : {"?", "a", "AB", "1", ""}) {
+        EXPECT_FALSE(SMatrix::freierMatrixname(name)) << name;
+    }
+    EXPECT_TRUE(SMatrix::freierMatrixname("Z"));
+}
+
+TEST_F(Liste, AuslistenGibtDenNamenZurueck) {
+    EXPECT_EQ(
+        auslisten("Q"),
+        std::make_pair(std::string("Es gibt in der Liste keine Matrix namens 'Q'  ."), false));
+    fuelle(2);
+    EXPECT_EQ(naechsterFreierName(), "C");
+    EXPECT_EQ(auslisten("A"), std::make_pair(std::string("ok"), true));
+    EXPECT_TRUE(SMatrix::freierMatrixname("A"));
+    EXPECT_EQ(listenZustand().smNamen.count("A"), 1u);
+    EXPECT_EQ(naechsterFreierName(), "A");
+    EXPECT_FALSE(istMatrixName("A"));
+    EXPECT_TRUE(istMatrixName("B"));
+}
+
+TEST_F(Liste, OhneFreienBuchstabenIstDerNaechsteNameDasFragezeichen) {
+    fuelle(26);
+    EXPECT_EQ(naechsterFreierName(), "?");
+    EXPECT_FALSE(eins("1").einlistenAls("?").second);
+    EXPECT_EQ(listenZustand().sMatrixListe.count("?"), 0u);
+}
+
+TEST_F(Liste, AktuelleListeIn1Und2Und3Spalten) {
+    for (const char* name : {"Z", "A", "C"}) {
+        ASSERT_TRUE(eins("1").einlistenAls(name).second);
+    }
+    EXPECT_EQ(aktuelleListe(), "A\nC\nZ\n");
+
+    const struct {
+        int anzahl;
+        const char* text;
+    } faelle[] = {
+        {10, "A\nB\nC\nD\nE\nF\nG\nH\nI\nJ\n"},
+        {11, "A , B\nC , D\nE , F\nG , H\nI , J\nK"},
+        {20, "A , B\nC , D\nE , F\nG , H\nI , J\nK , L\nM , N\nO , P\nQ , R\nS , T\n"},
+        {21, "ABC\nDEF\nGHI\nJKL\nMNO\nPQR\nSTU\n"},
+        {26, "ABC\nDEF\nGHI\nJKL\nMNO\nPQR\nSTU\nVWX\nYZ"},
+    };
+    for (const auto& fall : faelle) {
+        listenZustandZuruecksetzen();
+        fuelle(fall.anzahl);
+        EXPECT_EQ(aktuelleListe(), fall.text) << fall.anzahl << " names";
+    }
+}
+
+} // namespace
+} // namespace tabulon
