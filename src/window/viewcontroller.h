@@ -23,6 +23,8 @@
 
 namespace tabulon {
 
+struct Matrix;
+
 struct Zelle {
     std::string text;
     bool versteckt = false;
@@ -35,12 +37,12 @@ public:
     ViewController& operator=(const ViewController&) = delete;
 
     // The window's values.
-    std::array<Zelle, 64> zellen;  // a00F ... a77F: row i, column j at i * 8 + j
-    std::string eingabeFb;         // 'Name'
-    bool eingabeFbGruen = false;   // green while the system asks for a name
-    std::string eingabeF;          // the term
-    std::string ausgabeF;          // the message area
-    std::string notizF;            // the note line
+    std::array<Zelle, 64> zellen; // a00F ... a77F: row i, column j at i * 8 + j
+    std::string eingabeFb;        // 'Name'
+    bool eingabeFbGruen = false;  // green while the system asks for a name
+    std::string eingabeF;         // the term
+    std::string ausgabeF;         // the message area
+    std::string notizF;           // the note line
     std::string zeileF;
     std::string spalteF;
     std::string skalarF;
@@ -71,7 +73,12 @@ public:
     void schreibStringMatrix();
     void fensterPutz();
     void tableauLoeschen();
-    SMatrix sichtbarerBlock() const; // rows 0 ... rowmax, columns 0 ... columnmax of strEinAusMatrix
+    SMatrix
+    sichtbarerBlock() const; // rows 0 ... rowmax, columns 0 ... columnmax of strEinAusMatrix
+    // A result into the tableau: embedded, schreibStringMatrix(), refreshMatrixView(),
+    // fensterPutz(). The numeric form embeds without a refresh of its own (as the kernel needs).
+    void schreibInsTableau(const SMatrix& r);
+    void schreibInsTableau(const Matrix& r);
     void ausgabe(const std::string& t);
     void protokolliere(const std::string& t);
     void seiteAnzeigen();

@@ -1,0 +1,230 @@
+// The primitives of the window model: moving texts between the 64 cells and the in/out matrix,
+// messages and protocol pages, the note line, the name field, slider, checkbox and the question.
+
+#include "window/viewcontroller.h"
+
+#include "textmatrix/liste.h"
+#include "window/ganzzahltext.h"
+#include "window/tableau.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <map>
+
+namespace tabulon {
+
+namespace {
+
+// Upper case as the name field shows it. ASCII letters, the small letters of Latin-1 (UTF-8
+// C3 A0 ... C3 BE without the division sign) and ß, which becomes SS; every other byte stays as
+// it is, so a text that is no valid UTF-8 passes through unharmed.
+std::string grossGeschrieben(const std::string& text) {
+    std::string ergebnis;
+    ergebnis.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto c = static_cast<unsigned char>(text[i]);
+        if (c >= 'a' && c <= 'z') {
+            ergebnis.push_back(static_cast<char>(c - 'a' + 'A'));
+            continue;
+        }
+        if (c == 0xC3 && i + 1 < text.size()) {
+            const auto d = static_cast<unsigned char>(text[i + 1]);
+            if (d == 0x9F) { // ß
+                ergebnis += "SS";
+                ++i;
+                continue;
+            }
+            if (d >= 0xA0 && d <= 0xBE && d != 0xB7) {
+                ergebnis.push_back(static_cast<char>(c));
+                ergebnis.push_back(static_cast<char>(d - 0x20));
+                ++i;
+                continue;
+            }
+        }
+        ergebnis.push_back(static_cast<char>(c));
+    }
+    return ergebnis;
+}
+
+} // namespace
+
+void ViewController::viewDidLoad(const std::function<void(ViewController&)>& beimDelegateAnmelden) {
+    infoUndHilfeBGelb = true;
+    infoUndHilfeBTitel = "Info und Hilfe";
+    if (beimDelegateAnmelden) {
+        beimDelegateAnmelden(*this);
+    }
+}
+
+bool ViewController::fensterAktion(std::string_view name) {
+    using Aktion = void (ViewController::*)();
+    static const std::map<std::string_view, Aktion> aktionen = {
+        {"einlistB", &ViewController::einlistB},
+        {"auslistB", &ViewController::auslistB},
+        {"freierMatrixNameB", &ViewController::freierMatrixNameB},
+        {"name2SMatrixB", &ViewController::name2SMatrixB},
+        {"rundenB", &ViewController::rundenB},
+        {"genZufallsMatrixB", &ViewController::genZufallsMatrixB},
+        {"tableauRaendern", &ViewController::tableauRaendern},
+        {"einfuegen", &ViewController::einfuegen},
+        {"entfernen", &ViewController::entfernen},
+        {"tableauLoeschB", &ViewController::tableauLoeschB},
+        {"rplusB", &ViewController::rplusB},
+        {"rminusB", &ViewController::rminusB},
+        {"cplusB", &ViewController::cplusB},
+        {"cminusB", &ViewController::cminusB},
+        {"quitB", &ViewController::quitB},
+        {"protoUp", &ViewController::protoUp},
+        {"protoDown", &ViewController::protoDown},
+        {"protoDelSeite", &ViewController::protoDelSeite},
+        {"neueSeite", &ViewController::neueSeite},
+        {"dezimalSlider", &ViewController::dezimalSlider},
+        {"ueberschreibChecker", &ViewController::ueberschreibChecker},
+    };
+    const auto gefunden = aktionen.find(name);
+    if (gefunden == aktionen.end()) {
+        return false;
+    }
+    (this->*(gefunden->second))();
+    return true;
+}
+
+void ViewController::liesStringMatrix() {
+    auto& ein = tableauZustand().strEinAusMatrix;
+    for (int i = 0; i < 8; ++i) {
+        for (int j = 0; j < 8; ++j) {
+            ein(i, j) = zelle(i, j).text;
+        }
+    }
+}
+
+void ViewController::schreibStringMatrix() {
+    const auto& aus = tableauZustand().strEinAusMatrix;
+    for (int i = 0; i < 8; ++i) {
+        for (int j = 0; j < 8; ++j) {
+            zelle(i, j).text = aus(i, j);
+        }
+    }
+}
+
+void ViewController::fensterPutz() {
+    const auto& zustand = tableauZustand().fensterZustand;
+    for (int i = 0; i < 8; ++i) {
+        for (int j = 0; j < 8; ++j) {
+            zelle(i, j).versteckt = zustand[static_cast<std::size_t>(i * 10 + j)];
+        }
+    }
+}
+
+void ViewController::tableauLoeschen() {
+    notizloeschen();
+    auto& t = tableauZustand();
+    const SMatrix beiseite = t.strEinAusMatrix;
+    t.strEinAusMatrix = t.leerMatrix;
+    schreibStringMatrix();
+    t.strEinAusMatrix = beiseite;
+}
+
+SMatrix ViewController::sichtbarerBlock() const {
+    const auto& t = tableauZustand();
+    SMatrix m(t.rowmax + 1, t.columnmax + 1);
+    for (int i = 0; i <= t.rowmax; ++i) {
+        for (int j = 0; j <= t.columnmax; ++j) {
+            m(i, j) = t.strEinAusMatrix(i, j);
+        }
+    }
+    return m;
+}
+
+void ViewController::schreibInsTableau(const SMatrix& r) {
+    einbettenInEinAusMatrix(r);
+    schreibStringMatrix();
+    refreshMatrixView();
+    fensterPutz();
+}
+
+// The numeric embedding leaves the hidden part of the in/out matrix as it was until the refresh
+// after writing the cells, so hidden cells may keep older texts; that order is the kernel
+// command's and is kept on purpose.
+void ViewController::schreibInsTableau(const Matrix& r) {
+    einbettenInEinAusMatrix(r);
+    schreibStringMatrix();
+    refreshMatrixView();
+    fensterPutz();
+}
+
+void ViewController::ausgabe(const std::string& t) {
+    protokolliere(t);
+    const auto& p = protokollZustand();
+    ausgabeF = p.protokoll[static_cast<std::size_t>(p.maxSeitenNr)];
+}
+
+void ViewController::protokolliere(const std::string& t) {
+    auto& p = protokollZustand();
+    p.maxSeitenNr += 1;
+    p.protokoll.push_back(t);
+    p.aktSeitenNr = static_cast<int>(p.protokoll.size()) - 1;
+    seiteAnzeigen();
+}
+
+void ViewController::seiteAnzeigen() {
+    seitenF = ganzText(protokollZustand().aktSeitenNr);
+}
+
+void ViewController::protoAusgabe() {
+    const auto& p = protokollZustand();
+    ausgabeF = p.protokoll[static_cast<std::size_t>(p.aktSeitenNr)];
+    seiteAnzeigen();
+}
+
+void ViewController::notiz(const std::string& t) {
+    notizF = t;
+}
+
+void ViewController::notizloeschen() {
+    notiz("");
+}
+
+std::string ViewController::liesName() {
+    eingabeFb = grossGeschrieben(eingabeFb);
+    return eingabeFb;
+}
+
+void ViewController::aktualisiereMListe() {
+    mListeF = aktuelleListe();
+}
+
+void ViewController::sollEingeben() {
+    eingabeFbGruen = true;
+}
+
+void ViewController::hatEingegeben() {
+    eingabeFbGruen = false;
+}
+
+void ViewController::dezimalSlider() {
+    // A real slider cannot leave its range; a driver that sets it from outside can, so the value
+    // is held to 1 ... 10 the same way.
+    dezimalRegler = std::clamp(dezimalRegler, 1, 10);
+    listenZustand().dezimalen = dezimalRegler;
+    dezimalenF = ganzText(dezimalRegler);
+}
+
+void ViewController::ueberschreibChecker() {
+    listenZustand().ueberschreiben = ueberschreibF;
+    ueberschreibLabel = ueberschreibF ? "Ein" : "Aus";
+}
+
+std::string ViewController::auswahl(const std::string& nachricht, const std::string& option1,
+                                    const std::string& option2) {
+    const int antwort = plattform.frage(nachricht, option1, option2);
+    if (antwort == Plattform::ersterKnopf) {
+        return option1;
+    }
+    if (antwort == Plattform::zweiterKnopf) {
+        return option2;
+    }
+    return "Fehler";
+}
+
+} // namespace tabulon
