@@ -73,8 +73,8 @@ public:
     void schreibStringMatrix();
     void fensterPutz();
     void tableauLoeschen();
-    SMatrix
-    sichtbarerBlock() const; // rows 0 ... rowmax, columns 0 ... columnmax of strEinAusMatrix
+    // Rows 0 ... rowmax, columns 0 ... columnmax of strEinAusMatrix as a new text matrix.
+    SMatrix sichtbarerBlock() const;
     // A result into the tableau: embedded, schreibStringMatrix(), refreshMatrixView(),
     // fensterPutz(). The numeric form embeds without a refresh of its own (as the kernel needs).
     void schreibInsTableau(const SMatrix& r);
