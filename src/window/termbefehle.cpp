@@ -1,8 +1,114 @@
+#include "terms/parser.h"
+#include "textmatrix/liste.h"
+#include "textmatrix/zahltext.h"
+#include "window/tableau.h"
 #include "window/viewcontroller.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdint>
 
 namespace tabulon {
 
-void ViewController::parsStart() {}
-void ViewController::parsNfachStart() {}
+namespace {
+
+const std::string misslungen = "Die Formel konnte nicht ausgewertet werden.";
+
+// The n of the n-fold command: the field's numeric value truncated toward zero. A value that is
+// not a number, infinite, negative or beyond the 64-bit range gives 0, so that the command
+// refuses it with the n message instead of running a negative or undefined number of times.
+std::int64_t anzahlLaeufe(const std::string& feld) {
+    const double wert = doubleWert(feld);
+    constexpr double grenze = 9223372036854775808.0; // 2^63
+    if (!std::isfinite(wert) || wert <= -1.0 || wert >= grenze) {
+        return 0;
+    }
+    return static_cast<std::int64_t>(wert);
+}
+
+std::string dezimal(std::int64_t n) {
+    char puffer[24];
+    const auto ende = std::to_chars(puffer, puffer + sizeof puffer, n).ptr;
+    return std::string(puffer, ende);
+}
+
+} // namespace
+
+void ViewController::parsStart() {
+    const std::string term = eingabeF;
+    NamenErgebnis ergebnis{"", false};
+    auto& zustand = termZustand();
+    if (!term.empty()) {
+        zustand.r = doubleWert(skalarF);
+        ergebnis = parsen(term);
+    }
+    if (!ergebnis.second) {
+        notiz(zustand.fehlerListe + misslungen);
+        zustand.fehlerListe.clear();
+        plattform.piep();
+    } else {
+        const Matrix m = matrix(listenZustand().sMatrixListe.at(ergebnis.first));
+        einbettenInEinAusMatrix(m);
+        schreibStringMatrix();
+        refreshMatrixView();
+        fensterPutz();
+        notiz("Das Ergebnis der Rechnung wird im Eingabe-Tableau angezeigt");
+        ausgabe("Die Auswertung des Terms " + term + " ergibt: \n\n" + m.string());
+    }
+    tempNamenEntfernen();
+}
+
+void ViewController::parsNfachStart() {
+    const std::string term = eingabeF;
+    bool ok = true;
+    auto& zustand = termZustand();
+    auto& liste = listenZustand();
+
+    liste.zaehler = anzahlLaeufe(zaehlF);
+    if (liste.zaehler == 0) {
+        zustand.fehlerListe = "Was ist n ??    \t  ";
+        ok = false;
+    }
+    const std::string name = liesName();
+    if (!alphabetGross().contains(name)) {
+        zustand.fehlerListe += "< " + name + " > ist kein erlaubter Name.\n";
+        ok = false;
+    }
+    if (term.empty()) {
+        ok = false;
+    }
+
+    if (ok) {
+        zustand.r = doubleWert(skalarF);
+        for (std::int64_t lauf = 0; lauf < liste.zaehler; ++lauf) {
+            const auto [ergebnis, gelungen] = parsen(term);
+            ok = gelungen;
+            if (ok) {
+                // Copied first: the result may itself be the target's entry.
+                const SMatrix wert = liste.sMatrixListe.at(ergebnis);
+                liste.sMatrixListe[name] = wert;
+                liste.smNamen.erase(name);
+            }
+            // In the first run a temporary may have taken the still free target letter; the
+            // target keeps its entry all the same.
+            tempNamenEntfernen(name);
+        }
+    }
+
+    if (!ok) {
+        notiz(zustand.fehlerListe + misslungen);
+        zustand.fehlerListe.clear();
+        plattform.piep();
+        return;
+    }
+    const Matrix m = matrix(liste.sMatrixListe.at(name));
+    einbettenInEinAusMatrix(m);
+    schreibStringMatrix();
+    refreshMatrixView();
+    fensterPutz();
+    notiz("Das Ergebnis der Berechnung von " + name + " wird im Eingabe-Tableau angezeigt");
+    ausgabe("Die " + dezimal(liste.zaehler) + "-malige Auswertung des Terms " + term +
+            " ergibt: " + name + " = \n\n" + m.string());
+}
 
 } // namespace tabulon

@@ -1,0 +1,102 @@
+#pragma once
+// The term language: a matrix expression such as "A^2-A" or "(A-B)^3*r*B" typed into the term
+// field, evaluated against the matrix list.
+//
+// A term is a list of one-character tokens (string2ZeichenFeld). Before any matrix is touched,
+// the list is checked against a successor table (formelKorrekt) and for balanced brackets.
+// Evaluation builds no tree: the innermost, rightmost bracket core is evaluated first and its
+// result name put in its place, until no bracket is left; a bracket-free term is reduced by four
+// stages in a fixed order (powers, products, minus signs, sums), each step taken at the right
+// end of the term. Every intermediate value is stored as an ordinary entry of the matrix list
+// under the next free letter and its name recorded in tempNamen, so every operation works on
+// names only; the command that started the evaluation removes those entries again. A failed
+// evaluation yields the name "Fehler", which is never a list name, so it also makes every
+// enclosing evaluation fail.
+//
+// tokenizer.cpp (tokens, state), syntax.cpp (successor table and checks), auswertung.cpp
+// (evaluation), potenz.cpp (hoch), zeichen.h/.cpp (UTF-8 characters and upper-casing).
+
+#include "numeric/matrix.h"
+#include "textmatrix/smatrix.h"
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tabulon {
+
+using Zeichenfeld = std::vector<std::string>;
+
+// What one evaluation shares. The commands set r from the scalar field before each evaluation,
+// show fehlerListe in front of their failure line and then empty it, and remove the entries
+// named in tempNamen when the evaluation is over.
+struct TermZustand {
+    std::string fehlerListe;         // messages of the term language, in the order they arose
+    std::set<std::string> tempNamen; // list names that hold intermediate results
+    double r = 0.0;                  // the value of the token "r"
+};
+
+TermZustand& termZustand();
+void termZustandZuruecksetzen();
+
+// The fixed token sets.
+const std::set<std::string>& termAlphabet(); // the 42 tokens of the language
+const std::set<std::string>& mNamen();       // "r", "A" ... "Z", "(": what a term may begin with
+const std::set<std::string>& nieRechts();    // "(", "*", "m", "^", "r", "+": never at the end
+
+// One token per user-perceived character. "-" becomes "m", "r" stays "r", blanks are dropped,
+// everything else is upper-cased by full Unicode case mapping ("ß" becomes the one token "SS").
+// Never rejects anything; malformed UTF-8 bytes become tokens of their own.
+Zeichenfeld string2ZeichenFeld(std::string_view quelle);
+// The same splitting without any mapping: blanks dropped, case kept.
+Zeichenfeld string2ZeichenFeldL(std::string_view quelle);
+// The tokens that belong to the alphabet, in their order.
+Zeichenfeld gereinigt(const Zeichenfeld& feld);
+// The index of the last token equal to `zeichen`, or -1.
+std::int64_t posVonZeichen(const Zeichenfeld& feld, const std::string& zeichen);
+
+// Syntax.
+inline const std::string syntaxFehler =
+    "Der Term ist unabhängig von den Werten der Matrizen fehlerhaft.\n";
+std::set<std::string> erlaubteNachfolger(const std::string& v);
+bool formelKorrekt(const Zeichenfeld& feld);
+bool klammernAusgewogen(const Zeichenfeld& feld);
+bool klammerfrei(const Zeichenfeld& feld);
+
+// Evaluation. A name result is ("Fehler", false) on failure; a stage result is the reduced
+// term with its flag. A stage or termAuswerten called with ok false does nothing but fail.
+inline const std::string fehlerName = "Fehler";
+inline const std::string produktFehler = "Nicht produktkompatible Matrizen !\n ";
+inline const std::string quadratFehler = "Zum Potenzieren müssen Matrizen quadratisch sein!\n";
+inline const std::string regulaerFehler = "Nur reguläre Matrizen können invertiert werden!\n";
+
+using NamenErgebnis = std::pair<std::string, bool>;
+using StufenErgebnis = std::pair<Zeichenfeld, bool>;
+
+NamenErgebnis parsen(std::string_view kette);
+// Indices of the last "(" and of the first ")" after it; (0, 0) when there is no such pair.
+std::pair<std::int64_t, std::int64_t> klammerkernEnden(const Zeichenfeld& feld);
+Zeichenfeld entkerne(const Zeichenfeld& feld);
+NamenErgebnis termAuswerten(const Zeichenfeld& term, bool ok);
+StufenErgebnis potenzenAuswerten(Zeichenfeld term, bool ok);
+StufenErgebnis malAuswerten(Zeichenfeld term, bool ok);
+StufenErgebnis minusAuswerten(Zeichenfeld term, bool ok);
+StufenErgebnis plusAuswerten(Zeichenfeld term, bool ok);
+std::pair<Matrix, bool> matProdukt(const Matrix& m1, const Matrix& m2);
+std::pair<Matrix, bool> matSumme(const Matrix& m1, const Matrix& m2);
+// Stores m under the next free letter and records the name in tempNamen; ("?", false) when no
+// letter is free.
+NamenErgebnis einbuchten(const SMatrix& m);
+
+// mat^n for n > 0, the inverse for n = -1. Appends its message to fehlerListe when mat is not
+// square, or for n = -1 when its determinant is exactly 0.0.
+std::pair<Matrix, bool> hoch(const Matrix& mat, int n);
+
+// Removes every entry named in tempNamen from the list, except `behalten` (the target of the
+// n-fold command), and empties tempNamen.
+void tempNamenEntfernen(const std::string& behalten = "");
+
+} // namespace tabulon
