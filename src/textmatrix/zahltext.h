@@ -10,11 +10,13 @@
 namespace tabulon {
 
 // The whole text must be one floating-point literal (leading white space allowed). "" gives 0.
-// "5 ", "1,5", "1/2", "1e999" and texts of blanks only give nothing.
+// "5 ", "1,5", "1/2", "1e999" and texts of blanks only give nothing. An underflowing literal
+// ("1e-400") converts to the subnormal or zero that strtod returns; only overflow is refused.
 std::optional<double> text2Zahl(std::string_view text);
 
 // The standard text of a double: %.15g, followed by ".0" when the text holds neither a point,
-// nor an 'e', nor an 'n' (2 -> "2.0", -0.0 -> "-0.0", 1e-7 -> "1e-07").
+// nor an 'e', nor an 'n' (2 -> "2.0", -0.0 -> "-0.0", 1e-7 -> "1e-07"). Every NaN is "nan",
+// whatever its sign bit (the C library would print "-nan" for x86's 0/0).
 std::string zahlText(double x);
 
 // The full-precision text: the same with 17 significant digits (0.1 -> "0.10000000000000001").
