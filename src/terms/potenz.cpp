@@ -16,7 +16,8 @@ namespace {
 class Entwicklung {
 public:
     // The expansion of `m` without row `ohneZeile` (-1: all rows).
-    Entwicklung(const Matrix& m, std::int64_t ohneZeile) : m(m) {
+    Entwicklung(const Matrix& m, std::int64_t ohneZeile)
+        : eintraege(m.grid.data()), spaltenzahl(m.columns) {
         for (std::int64_t i = 0; i < m.rows; ++i) {
             if (i != ohneZeile) {
                 zeilen.push_back(i);
@@ -24,18 +25,17 @@ public:
         }
         const std::size_t groesse = std::size_t{1} << static_cast<unsigned>(m.columns);
         wert.assign(groesse, 0.0);
-        bekannt.assign(groesse, false);
+        bekannt.assign(groesse, 0);
     }
 
-    // The determinant of the minor on the columns in `spalten` and the last popcount(spalten)
-    // rows.
-    double det(unsigned spalten) {
-        const auto anzahl = static_cast<std::size_t>(std::popcount(spalten));
-        const std::int64_t zeile = zeilen[zeilen.size() - anzahl];
+    // The determinant of the minor on the columns in `spalten` (`anzahl` of them) and the last
+    // `anzahl` rows.
+    double det(unsigned spalten, std::size_t anzahl) {
+        const double* zeile = eintraege + zeilen[zeilen.size() - anzahl] * spaltenzahl;
         if (anzahl == 1) {
-            return m(zeile, std::countr_zero(spalten));
+            return zeile[std::countr_zero(spalten)];
         }
-        if (bekannt[spalten]) {
+        if (bekannt[spalten] != 0) {
             return wert[spalten];
         }
         double summe = 0.0;
@@ -43,18 +43,21 @@ public:
         for (unsigned rest = spalten; rest != 0; rest &= rest - 1, ++j) {
             const int spalte = std::countr_zero(rest);
             const unsigned ohne = spalten & ~(1u << static_cast<unsigned>(spalte));
-            summe += (m(zeile, spalte) * det(ohne)) * vorz(j);
+            // The sign as vorz(j) gives it.
+            const double vorzeichen = j % 2 == 1 ? -1.0 : 1.0;
+            summe += (zeile[spalte] * det(ohne, anzahl - 1)) * vorzeichen;
         }
-        bekannt[spalten] = true;
+        bekannt[spalten] = 1;
         wert[spalten] = summe;
         return summe;
     }
 
 private:
-    const Matrix& m;
+    const double* eintraege;
+    std::int64_t spaltenzahl;
     std::vector<std::int64_t> zeilen;
     std::vector<double> wert;
-    std::vector<bool> bekannt;
+    std::vector<char> bekannt;
 };
 
 // Sizes for which the table of column sets stays small. Matrices come from the 8 x 8 tableau;
@@ -71,7 +74,7 @@ double determinante(const Matrix& m) {
     if (!tabellierbar(m)) {
         return m.det();
     }
-    return Entwicklung(m, -1).det(alleSpalten(m));
+    return Entwicklung(m, -1).det(alleSpalten(m), static_cast<std::size_t>(m.rows));
 }
 
 // Matrix::invers() for a square matrix whose determinant d is already known.
@@ -89,7 +92,8 @@ Matrix inverse(const Matrix& m, double d) {
         for (std::int64_t j = 0; j < n; ++j) {
             const double vorzeichen = 1.0 - 2.0 * static_cast<double>((i + j) % 2);
             const unsigned spalten = alleSpalten(m) & ~(1u << static_cast<unsigned>(j));
-            kofaktoren(i, j) = (vorzeichen * ohneZeile.det(spalten)) / d;
+            kofaktoren(i, j) =
+                (vorzeichen * ohneZeile.det(spalten, static_cast<std::size_t>(n - 1))) / d;
         }
     }
     return kofaktoren.transponiert();
