@@ -1,0 +1,59 @@
+#pragma once
+// AppDelegate, the application shell's side of the menu. Every menu command of the program
+// arrives here and goes on to the one main window through mainVC; the window's own buttons, slider
+// and checkbox call the ViewController directly. mainVC is empty until the window registers
+// itself in viewDidLoad:
+//
+//     vc.viewDidLoad([&](ViewController& v) { delegate.mainVC = &v; });
+//
+// and menu commands that come before that are ignored. The delegate does not own the window: the
+// platform layer that creates both keeps the window alive as long as the delegate.
+
+#include "window/viewcontroller.h"
+
+#include <array>
+#include <string_view>
+
+namespace tabulon {
+
+class AppDelegate {
+public:
+    ViewController* mainVC = nullptr;
+
+    // The names of the 23 menu actions, in the order of the application menu's table; the desktop
+    // menu builds its entries from this list and fires them with menueAktion.
+    static const std::array<std::string_view, 23>& menueNamen();
+
+    // Fires the menu action of this name; false when there is no action of that name. A known
+    // action with an empty mainVC does nothing and still counts as fired.
+    bool menueAktion(std::string_view name);
+
+    void applicationDidFinishLaunching() {}
+    void applicationWillTerminate() {}
+
+    void TableauLöschen();
+    void nMalAuswerten();
+    void termAuswerten();
+    void MatrixlisteLoeschen();
+    void Invertiere();
+    void Transponiere();
+    void Orthonormiere();
+    void Gausse();
+    void loescheName();
+    void charPolUndEwe();
+    void gramsche();
+    void speichereEinzelmatrix();
+    void texAusgabeAlleMatrizen();
+    void loescheGanzeListe();
+    void genZufallsmatrix();
+    void genErzSysVomKern();
+    void genEinheitsmatrix();
+    void zeigeGanzeListe();
+    void druckeMatrixN();
+    void neustartM();
+    void ladenM();
+    void speichernM();
+    void protoSpeichern();
+};
+
+} // namespace tabulon

@@ -1,0 +1,173 @@
+#include "skript/treiber.h"
+
+#include "skript/zitat.h"
+#include "textmatrix/liste.h"
+#include "window/ganzzahltext.h"
+#include "window/tableau.h"
+
+#include <map>
+#include <string_view>
+
+namespace tabulon::skript {
+
+namespace {
+
+using Textfeld = std::string ViewController::*;
+
+// Every text field a script may name; `feld` accepts only the ones the user can type into, which
+// skriptzeile has already checked.
+Textfeld textfeld(std::string_view name) {
+    static const std::map<std::string_view, Textfeld> felder = {
+        {"eingabeFb", &ViewController::eingabeFb},
+        {"eingabeF", &ViewController::eingabeF},
+        {"ausgabeF", &ViewController::ausgabeF},
+        {"notizF", &ViewController::notizF},
+        {"zeileF", &ViewController::zeileF},
+        {"spalteF", &ViewController::spalteF},
+        {"skalarF", &ViewController::skalarF},
+        {"zaehlF", &ViewController::zaehlF},
+        {"mListeF", &ViewController::mListeF},
+        {"seitenF", &ViewController::seitenF},
+        {"dezimalenF", &ViewController::dezimalenF},
+        {"ueberschreibLabel", &ViewController::ueberschreibLabel},
+    };
+    const auto gefunden = felder.find(name);
+    return gefunden == felder.end() ? nullptr : gefunden->second;
+}
+
+// One entry of the in/out matrix; a matrix that lost its 8 x 8 shape shows "" where it has none.
+std::string eintrag(const SMatrix& m, int i, int j) {
+    return m.indexIsValid(i, j) ? m(i, j) : std::string();
+}
+
+} // namespace
+
+Treiber::Treiber(SkriptPlattform& plattform) : plattform(plattform), vc(plattform) {
+    vc.viewDidLoad([this](ViewController& v) { delegate.mainVC = &v; });
+}
+
+std::string tableauZeile(int zeile, const ViewController& vc) {
+    std::string text = ganzText(zeile) + ":";
+    for (int j = 0; j < 8; ++j) {
+        const Zelle& z = vc.zelle(zeile, j);
+        text += z.versteckt ? " ~" : " ";
+        text += zitiert(z.text);
+    }
+    return text;
+}
+
+void Treiber::zeige(const std::string& was) {
+    if (const Textfeld feld = textfeld(was)) {
+        plattform.zeile(was + " " + zitiert(vc.*feld));
+        return;
+    }
+    if (was == "hintergrund") {
+        plattform.zeile(vc.eingabeFbGruen ? "hintergrund gruen" : "hintergrund weiss");
+    } else if (was == "tableau") {
+        const auto& t = tableauZustand();
+        plattform.zeile("tableau " + ganzText(t.rowmax) + " " + ganzText(t.columnmax));
+        for (int i = 0; i < 8; ++i) {
+            plattform.zeile(tableauZeile(i, vc));
+        }
+    } else if (was == "einaus") {
+        const SMatrix& m = tableauZustand().strEinAusMatrix;
+        for (int i = 0; i < 8; ++i) {
+            std::string text = ganzText(i) + ":";
+            for (int j = 0; j < 8; ++j) {
+                text += " " + zitiert(eintrag(m, i, j));
+            }
+            plattform.zeile(text);
+        }
+    } else if (was == "liste") {
+        const auto& liste = listenZustand();
+        for (const auto& [name, m] : liste.sMatrixListe) {
+            std::string text =
+                "matrix " + name + " " + ganzText(m.rows) + " " + ganzText(m.columns);
+            for (const auto& e : m.grid) {
+                text += " " + zitiert(e);
+            }
+            plattform.zeile(text);
+        }
+        std::string frei;
+        for (const auto& name : liste.smNamen) {
+            frei += name;
+        }
+        plattform.zeile("frei " + zitiert(frei));
+    } else if (was == "protokoll") {
+        const auto& p = protokollZustand();
+        plattform.zeile("protokoll " + ganzText(p.aktSeitenNr) + " " + ganzText(p.maxSeitenNr));
+        for (std::size_t i = 0; i < p.protokoll.size(); ++i) {
+            plattform.zeile("seite " + ganzText(static_cast<std::int64_t>(i)) + " " +
+                            zitiert(p.protokoll[i]));
+        }
+    } else if (was == "einstellungen") {
+        const auto& liste = listenZustand();
+        plattform.zeile("einstellungen " + ganzText(liste.dezimalen) + " " +
+                        (liste.ueberschreiben ? "an" : "aus"));
+    }
+}
+
+std::string Treiber::ausfuehren(const Befehl& befehl) {
+    switch (befehl.art) {
+    case Befehlsart::feld:
+        vc.*textfeld(befehl.name) = befehl.text;
+        break;
+    case Befehlsart::zelle:
+        // Typing changes the cell only; the commands read it into the in/out matrix themselves.
+        vc.zelle(befehl.zeile, befehl.spalte).text = befehl.text;
+        break;
+    case Befehlsart::regler:
+        vc.dezimalRegler = befehl.zeile;
+        vc.dezimalSlider();
+        break;
+    case Befehlsart::haken:
+        vc.ueberschreibF = befehl.an;
+        vc.ueberschreibChecker();
+        break;
+    case Befehlsart::antwort:
+        plattform.antwortVormerken(befehl.text);
+        break;
+    case Befehlsart::knopf:
+        if (!vc.fensterAktion(befehl.name)) {
+            return "das Fenster kennt den Knopf " + zitiert(befehl.name) + " nicht";
+        }
+        break;
+    case Befehlsart::menue:
+        if (!delegate.menueAktion(befehl.name)) {
+            return "unbekannte Menüaktion " + zitiert(befehl.name);
+        }
+        break;
+    case Befehlsart::zeige:
+        zeige(befehl.name);
+        break;
+    }
+    return {};
+}
+
+int Treiber::lauf(std::istream& ein, std::ostream& fehlerAus, const std::string& quelle) {
+    std::string zeile;
+    std::int64_t nummer = 0;
+    while (std::getline(ein, zeile)) {
+        ++nummer;
+        const Zeilenergebnis z = zerlegeZeile(zeile);
+        std::string fehler = z.fehler;
+        if (z.befehl) {
+            fehler = ausfuehren(*z.befehl);
+        }
+        if (!fehler.empty()) {
+            fehlerAus << "tabulon-skript: " << quelle << ", Zeile " << ganzText(nummer) << ": "
+                      << fehler << '\n';
+            fehlerAus.flush();
+            return 2;
+        }
+    }
+    if (ein.bad()) {
+        fehlerAus << "tabulon-skript: " << quelle << " kann nach Zeile " << ganzText(nummer)
+                  << " nicht weiter gelesen werden\n";
+        fehlerAus.flush();
+        return 2;
+    }
+    return 0;
+}
+
+} // namespace tabulon::skript

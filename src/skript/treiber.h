@@ -1,0 +1,43 @@
+#pragma once
+// The driver proper: one window model with its application delegate, driven by the lines of a
+// script as a user would drive the desktop window. At start the window runs viewDidLoad, so the
+// delegate's mainVC is set and menu commands reach the window from the first line on.
+
+#include "app/appdelegate.h"
+#include "skript/skriptplattform.h"
+#include "skript/skriptzeile.h"
+#include "window/viewcontroller.h"
+
+#include <istream>
+#include <ostream>
+#include <string>
+
+namespace tabulon::skript {
+
+class Treiber {
+public:
+    explicit Treiber(SkriptPlattform& plattform);
+    Treiber(const Treiber&) = delete;
+    Treiber& operator=(const Treiber&) = delete;
+
+    // Runs one checked command; an error text when the window or the delegate does not know the
+    // action after all, else an empty text.
+    std::string ausfuehren(const Befehl& befehl);
+
+    // Runs the script line by line, each line as soon as it is read. Returns 0 at its end, or 2
+    // after the first line that cannot be run, which is reported on `fehlerAus` with its number;
+    // `quelle` names the script in that message.
+    int lauf(std::istream& ein, std::ostream& fehlerAus, const std::string& quelle);
+
+    SkriptPlattform& plattform;
+    ViewController vc;
+    AppDelegate delegate;
+
+private:
+    void zeige(const std::string& was);
+};
+
+// The lines of `zeige`, without the model: exposed for the tests.
+std::string tableauZeile(int zeile, const ViewController& vc);
+
+} // namespace tabulon::skript

@@ -1,0 +1,240 @@
+// The menu reaches the window only through mainVC: every one of the 23 actions must call its own
+// operation, and none may do anything before the window has registered.
+
+#include "app/appdelegate.h"
+#include "terms/parser.h"
+#include "textmatrix/liste.h"
+#include "window/tableau.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace tabulon {
+namespace {
+
+// Answers every question with its second button and records what happened.
+struct Aufzeichnung : Plattform {
+    std::filesystem::path ordner;
+    int pieps = 0;
+    std::vector<std::string> fragen;
+
+    void piep() override { ++pieps; }
+    int frage(const std::string& nachricht, const std::string&, const std::string&) override {
+        fragen.push_back(nachricht);
+        return zweiterKnopf;
+    }
+    std::uint32_t zufallUnter(std::uint32_t) override { return 0; }
+    void beenden(int) override {}
+    std::optional<std::filesystem::path> dokumentenOrdner() override { return ordner; }
+};
+
+struct Fall {
+    const char* aktion;
+    std::function<void(const ViewController&, const Aufzeichnung&)> pruefe;
+};
+
+void notizIst(const ViewController& vc, const std::string& text) {
+    EXPECT_EQ(vc.notizF, text);
+}
+
+void fragtNach(const Aufzeichnung& p, const std::string& frage) {
+    ASSERT_EQ(p.fragen.size(), 1u);
+    EXPECT_EQ(p.fragen.front(), frage);
+}
+
+class AppDelegateTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        listenZustandZuruecksetzen();
+        tableauZustandZuruecksetzen();
+        protokollZustandZuruecksetzen();
+        termZustandZuruecksetzen();
+        plattform.pieps = 0;
+        plattform.fragen.clear();
+        plattform.ordner = std::filesystem::path(::testing::TempDir()) / "tabulon_app_test";
+        std::filesystem::remove_all(plattform.ordner);
+        std::filesystem::create_directories(plattform.ordner);
+    }
+    Aufzeichnung plattform;
+};
+
+TEST_F(AppDelegateTest, EveryMenuActionReachesItsOwnOperation) {
+    // The state every action starts from: A is listed, the name field names the unknown B, the
+    // term and count fields are empty, a cell and the note line hold text.
+    const std::vector<Fall> faelle = {
+        {"TableauLöschen",
+         [](const ViewController& vc, const Aufzeichnung&) {
+             notizIst(vc, "");
+             EXPECT_EQ(vc.zelle(0, 0).text, "");
+         }},
+        {"nMalAuswerten",
+         [](const ViewController& vc, const Aufzeichnung& p) {
+             EXPECT_EQ(vc.notizF.rfind("Was ist n ??", 0), 0u) << vc.notizF;
+             EXPECT_EQ(p.pieps, 1);
+         }},
+        {"termAuswerten",
+         [](const ViewController& vc, const Aufzeichnung& p) {
+             notizIst(vc, "Die Formel konnte nicht ausgewertet werden.");
+             EXPECT_EQ(p.pieps, 1);
+         }},
+        {"MatrixlisteLoeschen",
+         [](const ViewController& vc, const Aufzeichnung& p) {
+             fragtNach(p, "Wirklich die gesamte Matrixliste endgültig löschen?");
+             notizIst(vc, "alt");
+         }},
+        {"Invertiere",
+         [](const ViewController& vc, const Aufzeichnung&) {
+             notizIst(vc, "Bitte Namen der zu invertierenden Matrix im Feld 'Name' angeben.");
+         }},
+        {"Transponiere",
+         [](const ViewController& vc, const Aufzeichnung&) {
+             notizIst(vc, "Bitte Namen der zu transponierenden Matrix im Feld 'Name' angeben.");
+         }},
+        {"Orthonormiere",
+         [](const ViewController& vc, const Aufzeichnung&) {
+             notizIst(vc, "Bitte Namen einer Matrix im Feld 'Name' angeben.");
+         }},
+        {"Gausse",
+         [](const ViewController& vc, const Aufzeichnung&) {
+             notizIst(vc, "Bitte Namen der umzuformenden Matrix im Feld 'Name' angeben.");
+         }},
+        {"loescheName",
+         [](const ViewController& vc, const Aufzeichnung&) {
+             // Deleting clears the name field; the menu does not refresh the list field.
+             EXPECT_EQ(vc.eingabeFb, "");
+             EXPECT_EQ(vc.mListeF, "vorher");
+             EXPECT_EQ(listenZustand().sMatrixListe.count("A"), 1u);
+         }},
+        {"charPolUndEwe",
+         [](const ViewController& vc, const Aufzeichnung& p) {
+             EXPECT_EQ(vc.ausgabeF, "Angabe des Namens einer existierenden Matrix fehlt.");
+             EXPECT_EQ(p.pieps, 1);
+         }},
+        {"gramsche",
+         [](const ViewController& vc, const Aufzeichnung&) {
+             notizIst(
+                 vc, "Bitte Namen einer in der Liste existierenden Matrix im Feld 'Name' angeben.");
+             EXPECT_TRUE(vc.eingabeFbGruen);
+         }},
+        {"speichereEinzelmatrix",
+         [](const ViewController& vc, const Aufzeichnung&) {
+             notizIst(vc, "Da hat irgendetwas nicht funktioniert.");
+         }},
+        {"texAusgabeAlleMatrizen",
+         [](const ViewController& vc, const Aufzeichnung& p) {
+             notizIst(vc, "Die Datei 'Matrix_Alle'  wurde im  Dokument-Ordner gespeichert.");
+             EXPECT_TRUE(std::filesystem::exists(p.ordner / "Matrix_Alle.txt"));
+         }},
+        {"loescheGanzeListe",
+         [](const ViewController& vc, const Aufzeichnung& p) {
+             fragtNach(p, "Wirklich die gesamte Matrixliste endgültig löschen?");
+             notizIst(vc, "Die Matrixliste ist ");
+         }},
+        {"genZufallsmatrix",
+         [](const ViewController& vc, const Aufzeichnung&) {
+             notizIst(vc, "Eine (8,8)-Zufallsmatrix wurde erzeugt.");
+         }},
+        {"genErzSysVomKern",
+         [](const ViewController& vc, const Aufzeichnung&) {
+             notizIst(vc, "Bitte Namen der Matrix im Feld 'Name' angeben.");
+             EXPECT_TRUE(vc.eingabeFbGruen);
+         }},
+        {"genEinheitsmatrix",
+         [](const ViewController& vc, const Aufzeichnung&) {
+             notizIst(vc, "Die (8,8)-Einheitsmatrix wurde eingetragen.");
+         }},
+        {"zeigeGanzeListe",
+         [](const ViewController& vc, const Aufzeichnung&) {
+             notizIst(vc, "");
+             EXPECT_NE(vc.ausgabeF.find("A(2,2)"), std::string::npos) << vc.ausgabeF;
+         }},
+        {"druckeMatrixN",
+         [](const ViewController& vc, const Aufzeichnung& p) {
+             notizIst(vc, "Keine Matrix mit Namen > B < befindet sich in der Liste.");
+             EXPECT_EQ(p.pieps, 1);
+         }},
+        {"neustartM",
+         [](const ViewController&, const Aufzeichnung& p) {
+             fragtNach(p, "Wirklich alles (auch die gesamte Matrixliste) endgültig löschen?");
+         }},
+        {"ladenM",
+         [](const ViewController&, const Aufzeichnung& p) {
+             fragtNach(p, "Dieser Befehl überschreibt alle Matrizen der Liste, deren Namen bei "
+                          "den zu ladenden Matrizen ebenfalls vorkommen. Trotzdem laden?");
+         }},
+        {"speichernM",
+         [](const ViewController&, const Aufzeichnung& p) {
+             fragtNach(p, "Dieser Befehl überschreibt eine eventuell existierende frühere Datei "
+                          "mit Matrizen. Trotzdem speichern?");
+         }},
+        {"protoSpeichern",
+         [](const ViewController& vc, const Aufzeichnung& p) {
+             notizIst(vc, "Das Protokoll wurde im Doku-Ordner als 'Matrix_proto.txt' gespeichert.");
+             EXPECT_TRUE(std::filesystem::exists(p.ordner / "Matrix_proto.txt"));
+         }},
+    };
+
+    ASSERT_EQ(faelle.size(), AppDelegate::menueNamen().size());
+    for (std::size_t i = 0; i < faelle.size(); ++i) {
+        const Fall& fall = faelle[i];
+        SCOPED_TRACE(fall.aktion);
+        EXPECT_EQ(AppDelegate::menueNamen()[i], fall.aktion);
+        SetUp();
+
+        ViewController vc(plattform);
+        AppDelegate delegate;
+        vc.viewDidLoad([&](ViewController& v) { delegate.mainVC = &v; });
+        ASSERT_EQ(delegate.mainVC, &vc);
+
+        SMatrix a(2, 2);
+        a.grid = {"1", "2", "3", "4"};
+        ASSERT_TRUE(a.einlistenAls("A").second);
+        vc.eingabeFb = "B";
+        vc.zelle(0, 0).text = "7";
+        vc.notizF = "alt";
+        vc.mListeF = "vorher";
+
+        ASSERT_TRUE(delegate.menueAktion(fall.aktion));
+        fall.pruefe(vc, plattform);
+    }
+}
+
+TEST_F(AppDelegateTest, NothingHappensBeforeTheWindowRegisters) {
+    ViewController vc(plattform);
+    vc.zelle(0, 0).text = "7";
+    vc.notizF = "alt";
+    AppDelegate delegate;
+    for (const auto name : AppDelegate::menueNamen()) {
+        EXPECT_TRUE(delegate.menueAktion(name)) << name;
+    }
+    EXPECT_EQ(vc.zelle(0, 0).text, "7");
+    EXPECT_EQ(vc.notizF, "alt");
+    EXPECT_EQ(plattform.pieps, 0);
+    EXPECT_TRUE(plattform.fragen.empty());
+    EXPECT_TRUE(listenZustand().sMatrixListe.empty());
+    EXPECT_EQ(protokollZustand().maxSeitenNr, 0);
+    EXPECT_TRUE(std::filesystem::is_empty(plattform.ordner));
+}
+
+TEST_F(AppDelegateTest, UnknownNamesFireNothing) {
+    ViewController vc(plattform);
+    AppDelegate delegate;
+    vc.viewDidLoad([&](ViewController& v) { delegate.mainVC = &v; });
+    vc.zelle(0, 0).text = "7";
+    for (const char* name : {"", "einlistB", "TableauLoeschen", "termauswerten", "quitB"}) {
+        EXPECT_FALSE(delegate.menueAktion(name)) << name;
+    }
+    EXPECT_EQ(vc.zelle(0, 0).text, "7");
+    EXPECT_EQ(plattform.pieps, 0);
+
+    const auto& namen = AppDelegate::menueNamen();
+    EXPECT_EQ(std::set<std::string_view>(namen.begin(), namen.end()).size(), namen.size());
+}
+
+} // namespace
+} // namespace tabulon
