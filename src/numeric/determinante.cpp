@@ -4,7 +4,38 @@
 
 #include "numeric/matrix.h"
 
+#include <vector>
+
 namespace tabulon {
+
+namespace {
+
+// The Laplace expansion along the first remaining row without building minors: a minor of the
+// expansion is always the rows below `zeile` restricted to the columns `spalten` (ascending),
+// so passing those indices gives the same products and sums, in the same order, as expanding
+// adiunkte() copies would. `frei` is scratch room for the column lists of the deeper levels.
+double entwickle(const Matrix& m, std::int64_t zeile, const std::int64_t* spalten,
+                 std::int64_t anzahl, std::int64_t* frei) {
+    if (anzahl - 1 > 0) {
+        std::int64_t* rest = frei;
+        double summe = 0.0;
+        for (std::int64_t j = 0; j < anzahl; ++j) {
+            std::int64_t k = 0;
+            for (std::int64_t s = 0; s < anzahl; ++s) {
+                if (s != j) {
+                    rest[k++] = spalten[s];
+                }
+            }
+            summe += (m(zeile, spalten[j]) *
+                      entwickle(m, zeile + 1, rest, anzahl - 1, frei + (anzahl - 1))) *
+                     vorz(j);
+        }
+        return summe;
+    }
+    return m(zeile, spalten[0]);
+}
+
+} // namespace
 
 Matrix adiunkte(const Matrix& quelle, std::int64_t spaltenNr) {
     const std::int64_t n = quelle.rows;
@@ -35,14 +66,13 @@ double Matrix::det() const {
     if (columns < rows) {
         return 0.0;
     }
-    if (rows - 1 > 0) {
-        double summe = 0.0;
-        for (std::int64_t j = 0; j < rows; ++j) {
-            summe += ((*this)(0, j) * adiunkte(*this, j).det()) * vorz(j);
-        }
-        return summe;
+    // Only the first `rows` columns take part, as in an expansion by adiunkte().
+    std::vector<std::int64_t> spalten(static_cast<std::size_t>(rows));
+    for (std::int64_t j = 0; j < rows; ++j) {
+        spalten[static_cast<std::size_t>(j)] = j;
     }
-    return (*this)(0, 0);
+    std::vector<std::int64_t> frei(static_cast<std::size_t>(rows * rows));
+    return entwickle(*this, 0, spalten.data(), rows, frei.data());
 }
 
 bool Matrix::istRegulaer() const {

@@ -22,6 +22,31 @@ TEST(Determinante, LaplaceExpansion) {
     EXPECT_EQ(vorz(7), -1.0);
 }
 
+// The expansion written out with adiunkte() copies: det() must agree with it to the last bit.
+double laplace(const Matrix& m) {
+    if (m.rows == 1) {
+        return m(0, 0);
+    }
+    double summe = 0.0;
+    for (std::int64_t j = 0; j < m.rows; ++j) {
+        summe += (m(0, j) * laplace(adiunkte(m, j))) * vorz(j);
+    }
+    return summe;
+}
+
+TEST(Determinante, AgreesBitForBitWithTheExpansionByMinors) {
+    for (std::int64_t n = 2; n <= 7; ++n) {
+        Matrix m(n, n);
+        for (std::size_t k = 0; k < m.grid.size(); ++k) {
+            m.grid[k] = static_cast<double>((k * 37 + 11) % 23) / 7.0 - 1.3;
+        }
+        EXPECT_EQ(m.det(), laplace(m)) << "order " << n;
+        // A wide matrix expands over its left square block.
+        EXPECT_EQ(m.plusNullzeile(n).transponiert().det(), laplace(m.transponiert()))
+            << "order " << n;
+    }
+}
+
 TEST(Determinante, RegularityUsesTheZeroTest) {
     EXPECT_FALSE(mat({{1e-8, 0}, {0, 1e-8}}).istRegulaer());
     EXPECT_TRUE(mat({{1e-7, 0}, {0, 1e-7}}).istRegulaer());
