@@ -63,9 +63,9 @@ void NfachAuswerten(benchmark::State& state) {
         tableauZustandZuruecksetzen();
         protokollZustandZuruecksetzen();
         ViewController vc(plattform);
-        vc.eingabeF = "A^-1*B";
-        vc.eingabeFb = "C";
-        vc.zaehlF = "100000";
+        vc.eingabeF = std::string("A^-1*B");
+        vc.eingabeFb = std::string("C");
+        vc.zaehlF = std::string("100000");
         state.ResumeTiming();
         vc.parsNfachStart();
         benchmark::DoNotOptimize(vc.notizF);
