@@ -1,0 +1,124 @@
+#include "dateitest.h"
+#include "files/listendatei.h"
+
+namespace tabulon {
+namespace {
+
+using ListendateiTest = DateiTest;
+
+TEST_F(ListendateiTest, SchreibtDasBeispielAufsByte) {
+    EXPECT_EQ(alleMatrizenCodieren(), "end%");
+    liste("C", {{"-0.5", "1e3", "0.0"}});
+    liste("A", {{"1", "2"}, {"3", "4"}});
+    const std::string text = alleMatrizenCodieren();
+    EXPECT_EQ(text, "A%2%2%1%2%3%4%C%1%3%-0.5%1e3%0.0%end%");
+    EXPECT_EQ(text.size(), 37u);
+    EXPECT_EQ(speicherHindernis(), std::nullopt);
+}
+
+TEST_F(ListendateiTest, FelderEndenAnJedemProzent) {
+    const Zeichenfeld zeichen = {"a", "%", "%", "b", "c", "%", "x"};
+    EXPECT_EQ(zeichenFeld2Stringfeld(zeichen), (Zeichenfeld{"a", "", "bc"}));
+    EXPECT_TRUE(zeichenFeld2Stringfeld({"x", "y"}).empty());
+}
+
+TEST_F(ListendateiTest, LadenErsetztGleichnamigeUndBehaeltDieAnderen) {
+    liste("A", {{"9"}});
+    liste("B", {{"8"}});
+    const auto [meldung, ok] =
+        codestringDecodieren("A%2%2%1%2 %3%4%C%1%3%-0.5%1 e3%0.0%end%alles danach%egal");
+    EXPECT_TRUE(ok) << meldung;
+    const auto& l = listenZustand();
+    ASSERT_EQ(l.sMatrixListe.size(), 3u);
+    EXPECT_EQ(l.sMatrixListe.at("A").grid, (std::vector<std::string>{"1", "2", "3", "4"}));
+    EXPECT_EQ(l.sMatrixListe.at("B").grid, std::vector<std::string>{"8"});
+    EXPECT_EQ(l.sMatrixListe.at("C").grid, (std::vector<std::string>{"-0.5", "1e3", "0.0"}));
+    EXPECT_EQ(l.sMatrixListe.at("C").rows, 1);
+    EXPECT_EQ(l.smNamen.count("A") + l.smNamen.count("B") + l.smNamen.count("C"), 0u);
+    EXPECT_EQ(l.smNamen.size(), 23u);
+}
+
+TEST_F(ListendateiTest, UngewoehnlicheAberHarmloseDatensaetze) {
+    // A hand-edited name, blanks everywhere, an empty entry, a later record of the same name,
+    // an entry that reads "end", and leading zeros in a count.
+    const auto [meldung, ok] = codestringDecodieren(" a b %1%1%x%D%01%2%%end%D%1%1%7%end%");
+    EXPECT_TRUE(ok) << meldung;
+    const auto& l = listenZustand();
+    EXPECT_EQ(l.sMatrixListe.at("ab").grid, std::vector<std::string>{"x"});
+    EXPECT_EQ(l.sMatrixListe.at("D").grid, std::vector<std::string>{"7"});
+    EXPECT_EQ(l.smNamen.size(), 25u); // "ab" was never a free name
+}
+
+struct Kaputt {
+    std::string datei;
+    std::string grund;
+};
+
+class KaputteDatei : public DateiTest, public ::testing::WithParamInterface<Kaputt> {};
+
+TEST_P(KaputteDatei, WirdGanzAbgelehntUndDieListeBleibt) {
+    beispielListe();
+    liste("B", {{"5"}});
+    const ListenZustand vorher = listenZustand();
+    const auto [meldung, ok] = codestringDecodieren(GetParam().datei);
+    EXPECT_FALSE(ok);
+    EXPECT_EQ(meldung, "Die Datei 'Matrix_MatDats.txt' wurde nicht geladen: " + GetParam().grund +
+                           " Die Liste ist unverändert.");
+    EXPECT_EQ(listenZustand().sMatrixListe, vorher.sMatrixListe);
+    EXPECT_EQ(listenZustand().smNamen, vorher.smNamen);
+}
+
+const std::string ohneEnd = "Das abschließende Feld 'end' fehlt.";
+const std::string name = "Sie enthält einen leeren oder unzulässigen Matrixnamen.";
+
+INSTANTIATE_TEST_SUITE_P(
+    Listendatei, KaputteDatei,
+    ::testing::Values(
+        Kaputt{"", ohneEnd}, Kaputt{"end", ohneEnd}, Kaputt{"A%1%1%5%", ohneEnd},
+        Kaputt{"E%1%1%5%F%1%1%6%en d", ohneEnd},
+        Kaputt{"A%x%1%5%end%", "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
+        Kaputt{"A%0%1%end%", "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
+        Kaputt{"A%9%1%1%2%3%4%5%6%7%8%9%end%",
+               "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
+        Kaputt{"A%-1%1%5%end%", "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
+        Kaputt{"A%+1%1%5%end%", "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
+        Kaputt{"A%%1%5%end%", "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
+        Kaputt{"A%1%1.0%5%end%", "Die Spaltenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
+        Kaputt{"A%1%99999999999999999999%5%end%",
+               "Die Spaltenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
+        Kaputt{"E%1%1%5%A%2%2%1%2%3%", "Der Matrix A fehlen Einträge."},
+        Kaputt{"A%2%2%1%2%3%end%", ohneEnd},
+        Kaputt{"E%1%1%5%A%2%", "Die Matrix A ist unvollständig."}, Kaputt{"%1%1%5%end%", name},
+        Kaputt{"../x%1%1%5%end%", name}, Kaputt{"a/b%1%1%5%end%", name},
+        Kaputt{"a\\b%1%1%5%end%", name}, Kaputt{"..%1%1%5%end%", name},
+        Kaputt{"a\tb%1%1%5%end%", name}, Kaputt{"a\nb%1%1%5%end%", name},
+        Kaputt{"?%1%1%5%end%", name}, Kaputt{"Fehler%1%1%5%end%", name},
+        // The damage comes after a good record: the good one must not be entered either.
+        Kaputt{"E%1%1%5%/%1%1%5%end%", name}));
+
+TEST_F(ListendateiTest, SchreibenVerweigertWasNichtZurueckkaeme) {
+    liste("A", {{"1"}});
+    liste("K", {{"1", "5%"}});
+    liste("M", {{"\xcc\x81"}}); // a lone combining accent would merge with the "%" before it
+    ASSERT_TRUE(speicherHindernis().has_value());
+    EXPECT_EQ(*speicherHindernis(),
+              "Die Matrix K kann nicht gespeichert werden: ein Eintrag enthält das Zeichen '%', "
+              "das in der Datei die Felder trennt. Die Datei 'Matrix_MatDats.txt' wurde nicht "
+              "verändert.");
+    listenZustand().sMatrixListe.erase("K");
+    ASSERT_TRUE(speicherHindernis().has_value());
+    EXPECT_NE(speicherHindernis()->find("Die Matrix M kann nicht gespeichert werden"),
+              std::string::npos);
+    // Inside an entry the accent is harmless, and blanks are simply dropped on reading.
+    listenZustand().sMatrixListe["M"] = listenZustand().sMatrixListe["A"];
+    listenZustand().sMatrixListe["M"].grid[0] = "e\xcc\x81 1 2";
+    EXPECT_EQ(speicherHindernis(), std::nullopt);
+    const std::string text = alleMatrizenCodieren();
+    listenZustandZuruecksetzen();
+    EXPECT_TRUE(codestringDecodieren(text).second);
+    EXPECT_EQ(listenZustand().sMatrixListe.at("M").grid[0], "e\xcc\x81"
+                                                            "12");
+}
+
+} // namespace
+} // namespace tabulon
