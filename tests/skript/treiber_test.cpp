@@ -99,52 +99,6 @@ protected:
     }
 };
 
-TEST_F(TreiberTest, StoresATableauMatrixAndShowsTheState) {
-    const auto [status, aus, fehler] = lauf("# the first steps of the typical use\n"
-                                            "zelle 0 0 \"1\"\n"
-                                            "zelle 0 1 \"2\"\n"
-                                            "\n"
-                                            "zelle 1 0 \"3\"\n"
-                                            "zelle 1 1 \"4\"\r\n"
-                                            "feld eingabeFb \"a\"\n"
-                                            "knopf einlistB\n"
-                                            "zeige notizF\n"
-                                            "zeige eingabeFb\n"
-                                            "zeige liste\n"
-                                            "knopf rminusB\n"
-                                            "zeige tableau\n"
-                                            "zeige protokoll\n"
-                                            "regler 3\n"
-                                            "haken an\n"
-                                            "zeige einstellungen\n"
-                                            "zeige dezimalenF\n"
-                                            "zeige ueberschreibLabel\n"
-                                            "zeige hintergrund");
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(fehler, "");
-    const std::string leer = R"( "" "" "" "" "" "" "" "")";
-    const std::string versteckt = R"( ~"" ~"" ~"" ~"" ~"" ~"" ~"" ~"")";
-    EXPECT_EQ(aus,
-              "notizF \"Die Tableau-Matrix wurde unter dem Namen A in die Liste eingetragen.\"\n"
-              "eingabeFb \"A\"\n"
-              "matrix A 2 2 \"1\" \"2\" \"3\" \"4\"\n"
-              "frei \"BCDEFGHIJKLMNOPQRSTUVWXYZ\"\n"
-              "tableau 6 7\n"
-              "0: \"1\" \"2\" \"\" \"\" \"\" \"\" \"\" \"\"\n"
-              "1: \"3\" \"4\" \"\" \"\" \"\" \"\" \"\" \"\"\n"
-              "2:" +
-                  leer + "\n3:" + leer + "\n4:" + leer + "\n5:" + leer + "\n6:" + leer +
-                  "\n7:" + versteckt +
-                  "\n"
-                  "protokoll 1 1\n"
-                  "seite 0 \"\"\n"
-                  "seite 1 \"A wurde eingelistet als: \\n\\n1     2     \\n3     4     \\n\"\n"
-                  "einstellungen 3 an\n"
-                  "dezimalenF \"3\"\n"
-                  "ueberschreibLabel \"Ein\"\n"
-                  "hintergrund weiss\n");
-}
-
 TEST_F(TreiberTest, StopsAtTheFirstBadLineAndNamesIt) {
     const std::pair<std::string, std::string> faelle[] = {
         {"zeige eingabeFb\nregler 11\nzeige eingabeFb\n",
@@ -159,16 +113,6 @@ TEST_F(TreiberTest, StopsAtTheFirstBadLineAndNamesIt) {
         EXPECT_EQ(aus, "eingabeFb \"\"\n"); // what ran before the bad line stays printed
         EXPECT_EQ(fehler, meldung);
     }
-}
-
-TEST_F(TreiberTest, MenuCommandsReachTheWindowFromTheFirstLine) {
-    const auto [status, aus, fehler] =
-        lauf("menue zeigeGanzeListe\nzeige notizF\nantwort \"Ja\"\nmenue MatrixlisteLoeschen\n");
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(aus, "piep\n"
-                   "notizF \"Die Matrixliste ist leer.\"\n"
-                   "frage \"Wirklich die gesamte Matrixliste endgültig löschen?\" \"Ja\" "
-                   "\"Nein, lieber nicht\" -> \"Ja\"\n");
 }
 
 } // namespace
