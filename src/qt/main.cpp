@@ -1,0 +1,26 @@
+// The desktop program: the application loop, the delegate and the main window with its model.
+
+#include "app/appdelegate.h"
+#include "qt/hauptfenster.h"
+#include "qt/qtplattform.h"
+#include "window/viewcontroller.h"
+
+#include <QApplication>
+#include <QIcon>
+
+int main(int argc, char** argv) {
+    QApplication programm(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Tabulon"));
+    QApplication::setWindowIcon(QIcon(tabulon::anwendungsIcon()));
+
+    tabulon::QtPlattform plattform;
+    tabulon::ViewController vc(plattform);
+    tabulon::AppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+
+    tabulon::Hauptfenster fenster(vc, delegate, plattform);
+    fenster.show();
+    const int status = QApplication::exec();
+    delegate.applicationWillTerminate();
+    return status;
+}

@@ -1,0 +1,34 @@
+#pragma once
+// QtPlattform, what the window model needs of the desktop: beep, the two-button question, random
+// numbers, exit and the documents folder. The main window hooks itself in through two callbacks:
+// vorDerFrage copies the model's values onto the screen before a modal question hides the
+// window's later updates, and blinken gives the beep something to see, because many Linux
+// desktops mute the bell.
+
+#include "window/plattform.h"
+
+#include <functional>
+
+class QWidget;
+class QPixmap;
+
+namespace tabulon {
+
+class QtPlattform : public Plattform {
+public:
+    QWidget* elternFenster = nullptr;
+    std::function<void()> vorDerFrage;
+    std::function<void()> blinken;
+
+    void piep() override;
+    int frage(const std::string& nachricht, const std::string& option1,
+              const std::string& option2) override;
+    std::uint32_t zufallUnter(std::uint32_t grenze) override;
+    void beenden(int status) override;
+    std::optional<std::filesystem::path> dokumentenOrdner() override;
+};
+
+// The application icon "M128.png": drawn rather than shipped, so the build needs no binary file.
+QPixmap anwendungsIcon(int kante = 128);
+
+} // namespace tabulon

@@ -1,0 +1,47 @@
+// bildschirmfoto <main.png> [<help.png>]: shows the main window with a small matrix and a
+// message, and saves what it looks like.
+
+#include "app/appdelegate.h"
+#include "qt/hauptfenster.h"
+#include "qt/qtplattform.h"
+#include "window/viewcontroller.h"
+
+#include <QApplication>
+#include <QPixmap>
+#include <QTimer>
+
+int main(int argc, char** argv) {
+    QApplication programm(argc, argv);
+    if (argc < 2) {
+        return 2;
+    }
+    tabulon::QtPlattform plattform;
+    tabulon::ViewController vc(plattform);
+    tabulon::AppDelegate delegate;
+    tabulon::Hauptfenster fenster(vc, delegate, plattform);
+    fenster.resize(1280, 800);
+    fenster.show();
+
+    vc.zelle(0, 0).text = "1";
+    vc.zelle(0, 1).text = "2";
+    vc.zelle(1, 0).text = "3";
+    vc.zelle(1, 1).text = "4";
+    vc.eingabeFb = "a";
+    fenster.fensterAktion("einlistB");
+    vc.zeileF = "3";
+    fenster.menueAktion("genEinheitsmatrix");
+
+    QTimer::singleShot(300, &fenster, [&] {
+        fenster.grab().save(QString::fromLocal8Bit(argv[1]));
+        if (argc > 2) {
+            fenster.hilfeOeffnen();
+            QTimer::singleShot(300, &fenster, [&] {
+                fenster.hilfefenster()->grab().save(QString::fromLocal8Bit(argv[2]));
+                QApplication::quit();
+            });
+        } else {
+            QApplication::quit();
+        }
+    });
+    return QApplication::exec();
+}

@@ -1,0 +1,309 @@
+// The desktop window against its model: the widgets carry the model's names, edits and clicks
+// reach the model, the model's answers reach the screen, and the Qt platform's question returns
+// the button pressed.
+
+#include "app/appdelegate.h"
+#include "app/hilfetexte.h"
+#include "qt/hauptfenster.h"
+#include "qt/hilfefenster.h"
+#include "qt/myview.h"
+#include "qt/qtplattform.h"
+#include "qt/tableauwidget.h"
+#include "terms/parser.h"
+#include "textmatrix/liste.h"
+#include "window/tableau.h"
+#include "window/viewcontroller.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSlider>
+#include <QTimer>
+#include <QtTest>
+
+#include <memory>
+
+using namespace tabulon;
+
+namespace {
+
+struct Aufbau {
+    QtPlattform plattform;
+    ViewController vc{plattform};
+    AppDelegate delegate;
+    std::unique_ptr<Hauptfenster> fenster;
+    int blinkZaehler = 0;
+
+    Aufbau() {
+        listenZustandZuruecksetzen();
+        tableauZustandZuruecksetzen();
+        protokollZustandZuruecksetzen();
+        termZustandZuruecksetzen();
+        fenster = std::make_unique<Hauptfenster>(vc, delegate, plattform);
+        plattform.blinken = [this] { ++blinkZaehler; };
+        fenster->show();
+    }
+
+    template <typename T> T* finde(const QString& name) const {
+        return fenster->findChild<T*>(name);
+    }
+    QLineEdit* zelle(int i, int j) const {
+        return finde<QLineEdit>(QStringLiteral("a%1%2F").arg(i).arg(j));
+    }
+};
+
+// Clicks the button with this text in the message box that is open once the event loop runs.
+void klickeImDialog(const QString& knopfText, QStringList* gesehen = nullptr) {
+    QTimer::singleShot(0, [knopfText, gesehen] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        for (QAbstractButton* knopf : box->buttons()) {
+            if (gesehen) {
+                *gesehen << knopf->text();
+            }
+        }
+        for (QAbstractButton* knopf : box->buttons()) {
+            if (knopf->text() == knopfText) {
+                knopf->click();
+                return;
+            }
+        }
+        box->reject();
+    });
+}
+
+} // namespace
+
+class FensterTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void widgetsTragenDieNamenDesModells() {
+        Aufbau a;
+        for (int i = 0; i < 8; ++i) {
+            for (int j = 0; j < 8; ++j) {
+                QVERIFY(a.zelle(i, j));
+                QVERIFY(a.zelle(i, j)->isVisible());
+            }
+        }
+        for (const char* name : {"eingabeFb", "eingabeF", "notizF", "zeileF", "spalteF", "skalarF",
+                                 "zaehlF", "mListeF", "seitenF", "dezimalenF"}) {
+            QVERIFY2(a.finde<QLineEdit>(QString::fromLatin1(name)), name);
+        }
+        for (const char* name : {"einlistB",        "name2SMatrixB", "freierMatrixNameB",
+                                 "auslistB",        "rundenB",       "genZufallsMatrixB",
+                                 "tableauRaendern", "einfuegen",     "entfernen",
+                                 "tableauLoeschB",  "quitB",         "rplusB",
+                                 "rminusB",         "cplusB",        "cminusB",
+                                 "protoUp",         "protoDown",     "protoDelSeite",
+                                 "neueSeite",       "infoUndHilfeB", "genEinheitsmatrixB"}) {
+            QVERIFY2(a.finde<QPushButton>(QString::fromLatin1(name)), name);
+        }
+        for (std::string_view name : AppDelegate::menueNamen()) {
+            const QString q = QString::fromUtf8(name.data(), qsizetype(name.size()));
+            QVERIFY2(a.finde<QAction>(q), name.data());
+        }
+        QCOMPARE(a.finde<QPushButton>("protoUp")->text(), QStringLiteral("^"));
+        QCOMPARE(a.finde<QPushButton>("protoDown")->text(), QStringLiteral("^"));
+        QVERIFY(a.finde<QPushButton>("protoDown")->toolTip() !=
+                a.finde<QPushButton>("protoUp")->toolTip());
+        QCOMPARE(a.finde<QAction>("ladenM")->shortcut(), QKeySequence(QStringLiteral("Ctrl+L")));
+
+        auto* regler = a.finde<QSlider>("dezimalSlider");
+        QCOMPARE(regler->minimum(), 1);
+        QCOMPARE(regler->maximum(), 10);
+        QCOMPARE(regler->value(), 6);
+        QCOMPARE(a.finde<QLineEdit>("dezimalenF")->text(), QStringLiteral("6"));
+        QCOMPARE(a.finde<QLabel>("ueberschreibLabel")->text(), QStringLiteral("Aus"));
+        QVERIFY(a.finde<QPlainTextEdit>("ausgabeF")->isReadOnly());
+        auto* hilfe = a.finde<QPushButton>("infoUndHilfeB");
+        QCOMPARE(hilfe->text(), QStringLiteral("Info und Hilfe"));
+        QVERIFY(hilfe->width() >= 182 && hilfe->height() >= 42);
+        QCOMPARE(a.delegate.mainVC, &a.vc);
+    }
+
+    void eintippenUndEinlisten() {
+        Aufbau a;
+        QTest::keyClicks(a.zelle(0, 0), "1");
+        QTest::keyClicks(a.zelle(0, 1), "2.5");
+        QTest::keyClicks(a.zelle(1, 0), " 3");
+        QTest::keyClicks(a.zelle(1, 1), "x");
+        QTest::keyClicks(a.finde<QLineEdit>("eingabeFb"), "a");
+        QTest::mouseClick(a.finde<QPushButton>("einlistB"), Qt::LeftButton);
+
+        const auto& liste = listenZustand().sMatrixListe;
+        QVERIFY(liste.count("A") == 1);
+        const SMatrix& m = liste.at("A");
+        QCOMPARE(m.rows, 2);
+        QCOMPARE(m.columns, 2);
+        QCOMPARE(QString::fromStdString(m(1, 0)), QStringLiteral(" 3"));
+        QCOMPARE(a.finde<QLineEdit>("eingabeFb")->text(), QStringLiteral("A"));
+        QVERIFY(a.finde<QLineEdit>("mListeF")->text().contains(QLatin1Char('A')));
+        QCOMPARE(a.finde<QLineEdit>("seitenF")->text(), QStringLiteral("1"));
+        QVERIFY(!a.finde<QPlainTextEdit>("ausgabeF")->toPlainText().isEmpty());
+
+        // The overwrite box and the slider write their model values and get their answers.
+        a.finde<QCheckBox>("ueberschreibF")->click();
+        QCOMPARE(a.finde<QLabel>("ueberschreibLabel")->text(), QStringLiteral("Ein"));
+        QVERIFY(listenZustand().ueberschreiben);
+        a.finde<QSlider>("dezimalSlider")->setValue(3);
+        QCOMPARE(listenZustand().dezimalen, 3);
+        QCOMPARE(a.finde<QLineEdit>("dezimalenF")->text(), QStringLiteral("3"));
+    }
+
+    void menueAktionUndKnoepfeErreichenDasModell() {
+        Aufbau a;
+        QTest::keyClicks(a.finde<QLineEdit>("zeileF"), "2");
+        a.finde<QAction>("genEinheitsmatrix")->trigger();
+        QCOMPARE(a.zelle(0, 0)->text(), QStringLiteral("1.0"));
+        QCOMPARE(a.zelle(0, 1)->text(), QStringLiteral("0.0"));
+        QVERIFY(a.zelle(1, 1)->isVisible());
+        QVERIFY(!a.zelle(2, 2)->isVisible());
+        QVERIFY(!a.zelle(0, 2)->isVisible());
+        QCOMPARE(a.finde<QLineEdit>("zeileF")->text(), QString());
+        QVERIFY(!a.finde<QLineEdit>("notizF")->text().isEmpty());
+
+        QTest::mouseClick(a.finde<QPushButton>("rplusB"), Qt::LeftButton);
+        QVERIFY(a.zelle(2, 0)->isVisible());
+
+        // A refused page action beeps: page 0 is the first page.
+        const int vorher = a.blinkZaehler;
+        QTest::mouseClick(a.finde<QPushButton>("protoDown"), Qt::LeftButton);
+        QCOMPARE(a.blinkZaehler, vorher + 1);
+
+        // Enter in the term field evaluates the term.
+        a.vc.eingabeFb = "E";
+        a.fenster->fensterAktion("einlistB");
+        QTest::keyClicks(a.finde<QLineEdit>("eingabeF"), "E+E");
+        QTest::keyClick(a.finde<QLineEdit>("eingabeF"), Qt::Key_Return);
+        QCOMPARE(a.zelle(0, 0)->text(), QStringLiteral("2.0"));
+    }
+
+    void hilfefensterZeigtDieTexte() {
+        Aufbau a;
+        QTest::mouseClick(a.finde<QPushButton>("infoUndHilfeB"), Qt::LeftButton);
+        Hilfefenster* hilfe = a.fenster->hilfefenster();
+        QVERIFY(hilfe);
+        QVERIFY(hilfe->isVisible());
+        auto* text = hilfe->findChild<QPlainTextEdit*>("hifeF");
+        QCOMPARE(text->toPlainText(),
+                 QStringLiteral("\n") +
+                     QString::fromUtf8(allgInfoH.data(), qsizetype(allgInfoH.size())));
+        QCOMPARE(hilfe->windowTitle(), QStringLiteral("Tabulon Info und Erläuterungen"));
+        QCOMPARE(hilfe->findChildren<QPushButton*>().size(), 25); // 24 topics and 'Schließen'
+
+        QTest::mouseClick(hilfe->findChild<QPushButton*>("loescheH"), Qt::LeftButton);
+        const std::string beide = "\n" + std::string(loescheHT) + std::string(loescheListeHT);
+        QCOMPARE(text->toPlainText(), QString::fromStdString(beide));
+
+        QTest::mouseClick(hilfe->findChild<QPushButton*>("fensterZuB"), Qt::LeftButton);
+        QVERIFY(!hilfe->isVisible());
+        QTRY_VERIFY(!a.fenster->hilfefenster()); // deleted on close, opened anew next time
+    }
+
+    void blockEinfuegenUndKopieren() {
+        // Separators: tabs win over semicolons, semicolons over blanks.
+        const auto tab = zerlegeBlock(QStringLiteral("1\t2 3\n4\t5\n"));
+        QCOMPARE(int(tab.size()), 2);
+        QCOMPARE(tab[0][1], QStringLiteral("2 3"));
+        const auto semi = zerlegeBlock(QStringLiteral("1; 2\r\n3;4"));
+        QCOMPARE(semi[0][1], QStringLiteral("2"));
+        QCOMPARE(semi[1][1], QStringLiteral("4"));
+        const auto blank = zerlegeBlock(QStringLiteral("  1   -2 \n3 4"));
+        QCOMPARE(int(blank[0].size()), 2);
+        QCOMPARE(blank[0][1], QStringLiteral("-2"));
+        QVERIFY(!istBlock(QStringLiteral("1.5")));
+        QVERIFY(istBlock(QStringLiteral("1 2")));
+
+        Aufbau a;
+        a.zelle(1, 1)->setFocus();
+        a.fenster->tableauWidget()->setzeAktuelleZelle(1, 1);
+        QApplication::clipboard()->setText(QStringLiteral("1\t2\n3\t4\n"));
+        QTest::keyClick(a.zelle(1, 1), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(QString::fromStdString(a.vc.zelle(1, 1).text), QStringLiteral("1"));
+        QCOMPARE(QString::fromStdString(a.vc.zelle(2, 2).text), QStringLiteral("4"));
+        QCOMPARE(a.zelle(2, 1)->text(), QStringLiteral("3"));
+
+        // Clipped at row and column 7.
+        a.fenster->tableauWidget()->setzeAktuelleZelle(6, 6);
+        a.fenster->tableauWidget()->blockEinfuegen(QStringLiteral("a b c\nd e f\ng h i"));
+        QCOMPARE(QString::fromStdString(a.vc.zelle(7, 7).text), QStringLiteral("e"));
+        QCOMPARE(QString::fromStdString(a.vc.zelle(6, 7).text), QStringLiteral("b"));
+
+        // Copying takes the visible block only.
+        QTest::mouseClick(a.finde<QPushButton>("rminusB"), Qt::LeftButton);
+        QTest::mouseClick(a.finde<QPushButton>("cminusB"), Qt::LeftButton);
+        QCOMPARE(a.fenster->tableauWidget()->sichtbarerBlockText().count(QLatin1Char('\n')), 7);
+        QTest::keyClicks(a.finde<QLineEdit>("zeileF"), "2");
+        a.fenster->menueAktion("genEinheitsmatrix");
+        QCOMPARE(a.fenster->tableauWidget()->sichtbarerBlockText(),
+                 QStringLiteral("1.0\t0.0\n0.0\t1.0\n"));
+    }
+
+    void frageLiefertDenGedruecktenKnopf() {
+        QtPlattform plattform;
+        QStringList gesehen;
+        klickeImDialog(QStringLiteral("Ja"), &gesehen);
+        QCOMPARE(plattform.frage("Wirklich?", "Ja", "Nein, lieber nicht"), Plattform::ersterKnopf);
+        QCOMPARE(gesehen,
+                 QStringList({QStringLiteral("Ja"), QStringLiteral("Nein, lieber nicht")}));
+        klickeImDialog(QStringLiteral("Nein, lieber nicht"));
+        QCOMPARE(plattform.frage("Wirklich?", "Ja", "Nein, lieber nicht"), Plattform::zweiterKnopf);
+
+        // Through the model: emptying the list from the menu asks first.
+        Aufbau a;
+        a.vc.zelle(0, 0).text = "7";
+        a.vc.eingabeFb = "C";
+        a.fenster->fensterAktion("einlistB");
+        QCOMPARE(int(listenZustand().sMatrixListe.size()), 1);
+        klickeImDialog(QStringLiteral("Nein, lieber nicht"));
+        a.fenster->menueAktion("loescheGanzeListe");
+        QCOMPARE(int(listenZustand().sMatrixListe.size()), 1);
+        klickeImDialog(QStringLiteral("Ja"));
+        a.fenster->menueAktion("loescheGanzeListe");
+        QVERIFY(listenZustand().sMatrixListe.empty());
+        QCOMPARE(a.finde<QLineEdit>("notizF")->text(),
+                 QStringLiteral("Die Matrixliste ist jetzt leer."));
+    }
+
+    void ruhigeFlaechePieptOhneUmschalttaste() {
+        Aufbau a;
+        auto* flaeche = a.finde<MyView>("MyView");
+        QVERIFY(flaeche);
+        const QPoint rand(2, 2);
+        QTest::mousePress(flaeche, Qt::LeftButton, Qt::NoModifier, rand);
+        QTest::mouseRelease(flaeche, Qt::LeftButton, Qt::NoModifier, rand);
+        QCOMPARE(a.blinkZaehler, 1);
+        QTest::mousePress(flaeche, Qt::LeftButton, Qt::ShiftModifier, rand);
+        QTest::mouseRelease(flaeche, Qt::LeftButton, Qt::ShiftModifier, rand);
+        QCOMPARE(a.blinkZaehler, 1);
+    }
+
+    void tastaturFuehrtDurchDasTableau() {
+        Aufbau a;
+        QApplication::setActiveWindow(a.fenster.get());
+        a.zelle(0, 0)->setFocus();
+        QTest::keyClick(a.zelle(0, 0), Qt::Key_Return);
+        QCOMPARE(QApplication::focusWidget(), a.zelle(0, 1));
+        QTest::keyClick(a.zelle(0, 1), Qt::Key_Down);
+        QCOMPARE(QApplication::focusWidget(), a.zelle(1, 1));
+        QTest::keyClick(a.zelle(1, 1), Qt::Key_Left);
+        QCOMPARE(QApplication::focusWidget(), a.zelle(1, 0));
+
+        // Enter skips hidden cells: with a 1 x 1 block it stays on the only cell.
+        a.vc.zeileF = "1";
+        a.fenster->menueAktion("genEinheitsmatrix");
+        a.zelle(0, 0)->setFocus();
+        QTest::keyClick(a.zelle(0, 0), Qt::Key_Return);
+        QCOMPARE(QApplication::focusWidget(), a.zelle(0, 0));
+    }
+};
+
+QTEST_MAIN(FensterTest)
+#include "fenster_test.moc"
