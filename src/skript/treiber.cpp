@@ -149,6 +149,10 @@ int Treiber::lauf(std::istream& ein, std::ostream& fehlerAus, const std::string&
     std::int64_t nummer = 0;
     while (std::getline(ein, zeile)) {
         ++nummer;
+        // Some editors begin a UTF-8 file with a byte order mark; it is no part of the command.
+        if (nummer == 1 && zeile.starts_with("\xEF\xBB\xBF")) {
+            zeile.erase(0, 3);
+        }
         const Zeilenergebnis z = zerlegeZeile(zeile);
         std::string fehler = z.fehler;
         if (z.befehl) {

@@ -101,7 +101,7 @@ protected:
 
 TEST_F(TreiberTest, StopsAtTheFirstBadLineAndNamesIt) {
     const std::pair<std::string, std::string> faelle[] = {
-        {"zeige eingabeFb\nregler 11\nzeige eingabeFb\n",
+        {"\xEF\xBB\xBFzeige eingabeFb\nregler 11\nzeige eingabeFb\n",
          "tabulon-skript: test.skript, Zeile 2: erwartet: regler N mit einer ganzen Zahl N von 1 "
          "bis 10\n"},
         {"zeige eingabeFb\n\n# x\nfeld mListeF \"A\"\nzeige eingabeFb\n",
