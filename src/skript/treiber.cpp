@@ -43,7 +43,9 @@ std::string eintrag(const SMatrix& m, int i, int j) {
 } // namespace
 
 Treiber::Treiber(SkriptPlattform& plattform) : plattform(plattform), vc(plattform) {
+    // The desktop program's order: the window loads and registers, then launching has finished.
     vc.viewDidLoad([this](ViewController& v) { delegate.mainVC = &v; });
+    delegate.applicationDidFinishLaunching();
 }
 
 std::string tableauZeile(int zeile, const ViewController& vc) {
