@@ -40,14 +40,7 @@ std::string eintrag(const SMatrix& m, int i, int j) {
     return m.indexIsValid(i, j) ? m(i, j) : std::string();
 }
 
-} // namespace
-
-Treiber::Treiber(SkriptPlattform& plattform) : plattform(plattform), vc(plattform) {
-    // The desktop program's order: the window loads and registers, then launching has finished.
-    vc.viewDidLoad([this](ViewController& v) { delegate.mainVC = &v; });
-    delegate.applicationDidFinishLaunching();
-}
-
+// One row of the tableau: each cell's text, marked with ~ when the cell is hidden.
 std::string tableauZeile(int zeile, const ViewController& vc) {
     std::string text = ganzText(zeile) + ":";
     for (int j = 0; j < 8; ++j) {
@@ -56,6 +49,14 @@ std::string tableauZeile(int zeile, const ViewController& vc) {
         text += zitiert(z.text);
     }
     return text;
+}
+
+} // namespace
+
+Treiber::Treiber(SkriptPlattform& plattform) : plattform(plattform), vc(plattform) {
+    // The desktop program's order: the window loads and registers, then launching has finished.
+    vc.viewDidLoad([this](ViewController& v) { delegate.mainVC = &v; });
+    delegate.applicationDidFinishLaunching();
 }
 
 void Treiber::zeige(const std::string& was) {

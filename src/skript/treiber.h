@@ -37,7 +37,4 @@ private:
     void zeige(const std::string& was);
 };
 
-// The lines of `zeige`, without the model: exposed for the tests.
-std::string tableauZeile(int zeile, const ViewController& vc);
-
 } // namespace tabulon::skript
