@@ -35,7 +35,6 @@ TEST(Matrix, StructureOperations) {
     EXPECT_EQ(adiunkte(m, 1), mat({{4, 6}, {7, 9}}));
     EXPECT_EQ(mat({{1, 2}}).plusNullzeile(0), mat({{0, 0}, {1, 2}}));
     EXPECT_EQ(mat({{1, 2}}).plusNullzeile(1), mat({{1, 2}, {0, 0}}));
-    EXPECT_EQ(mat({{1, 2, 3}, {4, 5, 6}}).transponiert(), mat({{1, 4}, {2, 5}, {3, 6}}));
 }
 
 TEST(Matrix, RowOperationsAndTheirMarker) {
@@ -63,8 +62,6 @@ TEST(Matrix, OperatorsAndTheirMarkers) {
     EXPECT_EQ(mat({{1, 2, 3}, {4, 5, 6}}) * mat({{1, 2, 3}, {4, 5, 6}}), mat({{666.0}}));
     EXPECT_EQ(a + a, mat({{2, 4}, {6, 8}}));
     EXPECT_EQ(a + mat({{1, 2, 3}, {4, 5, 6}}), Matrix(2, 3));
-    EXPECT_EQ(2.0 * a, a + a);
-    EXPECT_EQ(a.gegenMatrix(), (-1.0) * a);
 
     const SMatrix s = mat({{1, 2}, {3, 4}}).smatrix();
     EXPECT_EQ((s - s).grid, std::vector<std::string>(4, "0.0"));
@@ -77,9 +74,9 @@ TEST(Matrix, TextConversionsIgnoreTheLocale) {
     listenZustandZuruecksetzen();
 
     SMatrix s(2, 3);
-    s.grid = {"1.5", "1,5", "", "abc", "-2e3", "1/2"};
-    EXPECT_EQ(matrix(s), mat({{1.5, 0, 0}, {0, -2000, 0}}));
-    EXPECT_DOUBLE_EQ(fNorm(s), std::sqrt(1.5 * 1.5 + 2000.0 * 2000.0));
+    s.grid = {"3.0", "1,5", "", "abc", "-.4e1", "1/2"};
+    EXPECT_EQ(matrix(s), mat({{3, 0, 0}, {0, -4, 0}}));
+    EXPECT_EQ(fNorm(s), 5.0);
 
     const Matrix m = mat({{2, -1, 0.5}, {1.0 / 3.0, 1e-7, 100000}});
     EXPECT_EQ(m.smatrix().grid, (std::vector<std::string>{"2.0", "-1.0", "0.5", "0.333333333333333",

@@ -22,18 +22,13 @@ SMatrix texte(std::int64_t rows, std::int64_t columns, std::vector<std::string> 
 TEST(Vektor, ArithmeticWithMismatchedDimensions) {
     EXPECT_EQ(vek({1, 2}) + vek({1, 2, 3}), Vektor(2));
     EXPECT_EQ(vek({1, 2}) * vek({1, 2, 3}), 0.0);
-    EXPECT_EQ(vek({1, 2}) * vek({3, 4}), 11.0);
-    Vektor a = vek({1, 2});
-    a += vek({0.5, -2});
-    EXPECT_EQ(a, vek({1.5, 0}));
     EXPECT_EQ(Vektor(3).normiert(), Vektor(3));
-    EXPECT_EQ(vek({3, 4}).norm(), 5.0);
 }
 
 TEST(Vektor, SchmidtDropsDependentVectors) {
     const auto onb = schmidt({vek({3, 4}), vek({6, 8}), vek({0, 1})});
     ASSERT_EQ(onb.size(), 2u);
-    EXPECT_TRUE(test::fastGleich(vFeld2Matrix(onb), test::mat({{0.6, -0.8}, {0.8, 0.6}}), 1e-15));
+    test::erwarteFast(vFeld2Matrix(onb), test::mat({{0.6, -0.8}, {0.8, 0.6}}), 1e-15);
 
     EXPECT_TRUE(schmidt({}).empty());
     EXPECT_TRUE(schmidt({Vektor(2)}).empty());
