@@ -199,6 +199,54 @@ TEST_F(Auswertung, JederSchrittBrauchtEinenFreienBuchstaben) {
     EXPECT_TRUE(temp().empty());
 }
 
+// Whatever is typed, an evaluation followed by the clean-up leaves the list as it was. The terms
+// mostly follow the successor table, so that many of them get far into the evaluation.
+TEST_F(Auswertung, ZufaelligeTermeHinterlassenDieListeUnveraendert) {
+    lege("A", sm({{"1", "2"}, {"3", "4"}}));
+    lege("B", sm({{"0", "1"}, {"1", "0"}, {"2", "2"}}));
+    lege("S", sm({{"1", "2"}, {"2", "4"}}));
+    const auto vorher = listenZustand();
+    const std::vector<std::string> teile{"A", "B", "S", "X", "+", "-", "*", "^",
+                                         "1", "2", "r", "(", ")", " ", "ß"};
+    std::uint64_t zustand = 99;
+    const auto zufall = [&zustand](std::uint64_t grenze) {
+        zustand = zustand * 6364136223846793005ULL + 1442695040888963407ULL;
+        return (zustand >> 33) % grenze;
+    };
+    int gelungen = 0;
+    for (int versuch = 0; versuch < 2000; ++versuch) {
+        std::string term;
+        std::set<std::string> erlaubt = mNamen();
+        const auto laenge = 1 + zufall(12);
+        for (std::uint64_t k = 0; k < laenge; ++k) {
+            std::vector<std::string> auswahl;
+            for (const auto& t : teile) {
+                const auto token = string2ZeichenFeld(t);
+                if (zufall(8) == 0 || (!token.empty() && erlaubt.contains(token.front()))) {
+                    auswahl.push_back(t);
+                }
+            }
+            if (auswahl.empty()) {
+                break;
+            }
+            const std::string& teil = auswahl[zufall(auswahl.size())];
+            term += teil;
+            const auto token = string2ZeichenFeld(teil);
+            if (!token.empty()) {
+                erlaubt = erlaubteNachfolger(token.front());
+            }
+        }
+        const auto [name, ok] = parsen(term);
+        EXPECT_EQ(ok, name != "Fehler") << term;
+        gelungen += ok ? 1 : 0;
+        tempNamenEntfernen();
+        termZustand().fehlerListe.clear();
+        ASSERT_EQ(listenZustand().sMatrixListe, vorher.sMatrixListe) << term;
+        ASSERT_EQ(listenZustand().smNamen, vorher.smNamen) << term;
+    }
+    EXPECT_GT(gelungen, 80);
+}
+
 TEST_F(Auswertung, KlammerkerneInnenUndRechts) {
     const Zeichenfeld feld{"(", "A", "+", "(", "B", ")", ")", "*", "(", "C", ")"};
     EXPECT_EQ(klammerkernEnden(feld), (std::pair<std::int64_t, std::int64_t>{8, 10}));
