@@ -91,6 +91,12 @@ Hauptfenster::Hauptfenster(ViewController& vc, AppDelegate& delegate, QtPlattfor
     tableau->zelle(0, 0)->setFocus();
 }
 
+Hauptfenster::~Hauptfenster() {
+    plattform.elternFenster = nullptr;
+    plattform.vorDerFrage = nullptr;
+    plattform.blinken = nullptr;
+}
+
 QPushButton* Hauptfenster::knopf(const QString& titel, const char* name, const QString& hinweis) {
     auto* k = new QPushButton(titel);
     k->setObjectName(QString::fromLatin1(name));

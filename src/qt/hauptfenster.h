@@ -31,6 +31,8 @@ class ViewController;
 class Hauptfenster : public QMainWindow {
 public:
     Hauptfenster(ViewController& vc, AppDelegate& delegate, QtPlattform& plattform);
+    // Unhooks the platform's callbacks, which point into this window.
+    ~Hauptfenster() override;
 
     void fensterAktion(std::string_view name);
     void menueAktion(std::string_view name);

@@ -25,7 +25,7 @@ struct Menueeintrag {
 
 const char* const menueTitel[] = {"Datei", "Liste", "Rechnen", "Tableau"};
 
-// Shortcuts avoid the keys a line edit keeps for itself (Ctrl+A, C, V, X, Z, Y, E, K, ...), so
+// Shortcuts avoid the keys a line edit keeps for itself (Ctrl+A, C, D, E, K, V, X, Y, Z, ...), so
 // they also work while the cursor is in a cell.
 const Menueeintrag eintraege[] = {
     {"ladenM", "Laden", "Ctrl+L", 0},
@@ -36,7 +36,7 @@ const Menueeintrag eintraege[] = {
     {"neustartM", "Neustart", "Ctrl+N", 0},
 
     {"zeigeGanzeListe", "Zeige Liste", "Ctrl+Shift+L", 1},
-    {"druckeMatrixN", "Zeige Matrix<Name>", "Ctrl+D", 1},
+    {"druckeMatrixN", "Zeige Matrix<Name>", "Ctrl+M", 1},
     {"loescheName", "Lösche <Name>", "Ctrl+Shift+D", 1},
     {"loescheGanzeListe", "Lösche ganze Liste", "", 1},
     {"MatrixlisteLoeschen", "Matrixliste leeren", "", 1},
