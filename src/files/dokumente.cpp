@@ -4,6 +4,7 @@
 #include "files/dokumente.h"
 
 #include <cerrno>
+#include <charconv>
 #include <cstring>
 #include <fcntl.h>
 #include <locale.h>
@@ -21,7 +22,7 @@ std::string fehlerText(int nummer) {
     if (cLocale != static_cast<locale_t>(nullptr)) {
         return strerror_l(nummer, cLocale);
     }
-    return "Error " + std::to_string(nummer);
+    return "Error " + ganzzahlText(nummer);
 }
 
 std::string dateiName(const std::string& name) {
@@ -54,8 +55,8 @@ int temporaerAnlegen(const std::filesystem::path& ordner, const std::string& nam
                      std::filesystem::path& temp) {
     static unsigned zaehler = 0;
     for (int versuch = 0; versuch < 100; ++versuch) {
-        temp = ordner / ("." + dateiName(name) + "." + std::to_string(::getpid()) + "-" +
-                         std::to_string(zaehler++) + ".tmp");
+        temp = ordner / ("." + dateiName(name) + "." + ganzzahlText(::getpid()) + "-" +
+                         ganzzahlText(zaehler++) + ".tmp");
         const int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
         if (fd >= 0 || errno != EEXIST) {
             return fd;
@@ -65,6 +66,12 @@ int temporaerAnlegen(const std::filesystem::path& ordner, const std::string& nam
 }
 
 } // namespace
+
+std::string ganzzahlText(std::int64_t n) {
+    char puffer[24];
+    const auto ergebnis = std::to_chars(puffer, puffer + sizeof puffer, n);
+    return std::string(puffer, ergebnis.ptr);
+}
 
 bool sichererDateiname(std::string_view name) {
     if (name.empty() || name.find("..") != std::string_view::npos) {

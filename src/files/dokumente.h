@@ -5,6 +5,7 @@
 // never need the window. Names are checked before anything touches the disk: no file name this
 // system writes or reads can leave the documents folder.
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -33,6 +34,9 @@ std::pair<bool, std::string> lesen(const std::optional<std::filesystem::path>& o
 
 inline const std::string keineDateiMeldung =
     "Keine Datei mit gespeicherten Matrizen im Dokumenten-Ordner gefunden.";
+
+// An integer in plain decimal, the same in every locale.
+std::string ganzzahlText(std::int64_t n);
 
 // The file URL as the write-failure message shows it: "file://" followed by the absolute path,
 // every byte outside A-Z a-z 0-9 - . _ ~ / written as %XX.

@@ -14,18 +14,6 @@ namespace {
 const std::string trenner = "%";
 const std::string endeFeld = "end";
 
-std::string ganzzahl(std::int64_t n) {
-    std::string s;
-    const bool negativ = n < 0;
-    std::uint64_t betrag =
-        negativ ? ~static_cast<std::uint64_t>(n) + 1 : static_cast<std::uint64_t>(n);
-    do {
-        s.insert(s.begin(), static_cast<char>('0' + betrag % 10));
-        betrag /= 10;
-    } while (betrag != 0);
-    return negativ ? "-" + s : s;
-}
-
 // A row or column count: decimal digits only (blanks are gone before this) with a value of 1 to
 // 8, the largest size the tableau can hold.
 std::optional<std::int64_t> anzahl(const std::string& feld) {
@@ -76,7 +64,8 @@ std::string nichtGespeichert(const std::string& grund) {
 } // namespace
 
 std::string m2String(const SMatrix& m, const std::string& name) {
-    std::string s = name + trenner + ganzzahl(m.rows) + trenner + ganzzahl(m.columns) + trenner;
+    std::string s =
+        name + trenner + ganzzahlText(m.rows) + trenner + ganzzahlText(m.columns) + trenner;
     for (std::int64_t i = 0; i < m.rows; ++i) {
         for (std::int64_t j = 0; j < m.columns; ++j) {
             s += m(i, j) + trenner;

@@ -19,11 +19,6 @@ TEST_F(DokumenteTest, SchreibenErsetztGanzUndLaesstKeineResteZurueck) {
     EXPECT_EQ(lesen(ordner, "Matrix_leer"), std::make_pair(true, std::string()));
 }
 
-TEST_F(DokumenteTest, OhneOrdnerWirdNichtsGeschriebenUndNichtsGelesen) {
-    EXPECT_EQ(schreiben(std::nullopt, "X", "a"), std::make_pair(true, std::string()));
-    EXPECT_EQ(lesen(std::nullopt, "Matrix_X"), std::make_pair(false, std::string()));
-}
-
 TEST_F(DokumenteTest, FehlschlagNenntUrlUndFehlerUndLaesstAlteDateiStehen) {
     const auto fehlt = ordner / "gibt es nicht";
     EXPECT_EQ(schreiben(fehlt, "MatDats", "end%"),

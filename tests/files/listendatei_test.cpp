@@ -16,37 +16,20 @@ TEST_F(ListendateiTest, SchreibtDasBeispielAufsByte) {
     EXPECT_EQ(speicherHindernis(), std::nullopt);
 }
 
-TEST_F(ListendateiTest, FelderEndenAnJedemProzent) {
-    const Zeichenfeld zeichen = {"a", "%", "%", "b", "c", "%", "x"};
-    EXPECT_EQ(zeichenFeld2Stringfeld(zeichen), (Zeichenfeld{"a", "", "bc"}));
-    EXPECT_TRUE(zeichenFeld2Stringfeld({"x", "y"}).empty());
-}
-
-TEST_F(ListendateiTest, LadenErsetztGleichnamigeUndBehaeltDieAnderen) {
-    liste("A", {{"9"}});
+TEST_F(ListendateiTest, LiestAuchUngewoehnlicheAberHarmloseDateien) {
+    // Blanks everywhere, a hand-edited name, an empty entry, an entry that reads "end", leading
+    // zeros in a count, a later record of the same name, and text after "end".
+    liste("D", {{"9"}});
     liste("B", {{"8"}});
     const auto [meldung, ok] =
-        codestringDecodieren("A%2%2%1%2 %3%4%C%1%3%-0.5%1 e3%0.0%end%alles danach%egal");
+        codestringDecodieren(" a b %1%2%1 2%x%D%01%2%%end%D%1%1%-0. 5%end%alles danach%egal");
     EXPECT_TRUE(ok) << meldung;
     const auto& l = listenZustand();
     ASSERT_EQ(l.sMatrixListe.size(), 3u);
-    EXPECT_EQ(l.sMatrixListe.at("A").grid, (std::vector<std::string>{"1", "2", "3", "4"}));
+    EXPECT_EQ(l.sMatrixListe.at("ab").grid, (std::vector<std::string>{"12", "x"}));
+    EXPECT_EQ(l.sMatrixListe.at("D").grid, std::vector<std::string>{"-0.5"});
     EXPECT_EQ(l.sMatrixListe.at("B").grid, std::vector<std::string>{"8"});
-    EXPECT_EQ(l.sMatrixListe.at("C").grid, (std::vector<std::string>{"-0.5", "1e3", "0.0"}));
-    EXPECT_EQ(l.sMatrixListe.at("C").rows, 1);
-    EXPECT_EQ(l.smNamen.count("A") + l.smNamen.count("B") + l.smNamen.count("C"), 0u);
-    EXPECT_EQ(l.smNamen.size(), 23u);
-}
-
-TEST_F(ListendateiTest, UngewoehnlicheAberHarmloseDatensaetze) {
-    // A hand-edited name, blanks everywhere, an empty entry, a later record of the same name,
-    // an entry that reads "end", and leading zeros in a count.
-    const auto [meldung, ok] = codestringDecodieren(" a b %1%1%x%D%01%2%%end%D%1%1%7%end%");
-    EXPECT_TRUE(ok) << meldung;
-    const auto& l = listenZustand();
-    EXPECT_EQ(l.sMatrixListe.at("ab").grid, std::vector<std::string>{"x"});
-    EXPECT_EQ(l.sMatrixListe.at("D").grid, std::vector<std::string>{"7"});
-    EXPECT_EQ(l.smNamen.size(), 25u); // "ab" was never a free name
+    EXPECT_EQ(l.smNamen.size(), 24u); // "ab" was never a free name
 }
 
 struct Kaputt {
@@ -71,27 +54,22 @@ TEST_P(KaputteDatei, WirdGanzAbgelehntUndDieListeBleibt) {
 const std::string ohneEnd = "Das abschließende Feld 'end' fehlt.";
 const std::string name = "Sie enthält einen leeren oder unzulässigen Matrixnamen.";
 
+const std::string zeilen = "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8.";
+
 INSTANTIATE_TEST_SUITE_P(
     Listendatei, KaputteDatei,
     ::testing::Values(
         Kaputt{"", ohneEnd}, Kaputt{"end", ohneEnd}, Kaputt{"A%1%1%5%", ohneEnd},
-        Kaputt{"E%1%1%5%F%1%1%6%en d", ohneEnd},
-        Kaputt{"A%x%1%5%end%", "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
-        Kaputt{"A%0%1%end%", "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
-        Kaputt{"A%9%1%1%2%3%4%5%6%7%8%9%end%",
-               "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
-        Kaputt{"A%-1%1%5%end%", "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
-        Kaputt{"A%+1%1%5%end%", "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
-        Kaputt{"A%%1%5%end%", "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
+        Kaputt{"A%2%2%1%2%3%end%", ohneEnd}, // "end" taken as the last entry
+        Kaputt{"A%x%1%5%end%", zeilen}, Kaputt{"A%0%1%end%", zeilen},
+        Kaputt{"A%9%1%1%2%3%4%5%6%7%8%9%end%", zeilen}, Kaputt{"A%-1%1%5%end%", zeilen},
+        Kaputt{"A%%1%5%end%", zeilen},
         Kaputt{"A%1%1.0%5%end%", "Die Spaltenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
         Kaputt{"A%1%99999999999999999999%5%end%",
                "Die Spaltenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
         Kaputt{"E%1%1%5%A%2%2%1%2%3%", "Der Matrix A fehlen Einträge."},
-        Kaputt{"A%2%2%1%2%3%end%", ohneEnd},
         Kaputt{"E%1%1%5%A%2%", "Die Matrix A ist unvollständig."}, Kaputt{"%1%1%5%end%", name},
-        Kaputt{"../x%1%1%5%end%", name}, Kaputt{"a/b%1%1%5%end%", name},
-        Kaputt{"a\\b%1%1%5%end%", name}, Kaputt{"..%1%1%5%end%", name},
-        Kaputt{"a\tb%1%1%5%end%", name}, Kaputt{"a\nb%1%1%5%end%", name},
+        Kaputt{"../x%1%1%5%end%", name}, Kaputt{"a\tb%1%1%5%end%", name},
         Kaputt{"?%1%1%5%end%", name}, Kaputt{"Fehler%1%1%5%end%", name},
         // The damage comes after a good record: the good one must not be entered either.
         Kaputt{"E%1%1%5%/%1%1%5%end%", name}));
