@@ -68,7 +68,7 @@ const std::string_view druckeHT =
     "Hilfethema: Ausgabe einer Matrix oder aller MatrixNamen aus der Liste\n\n"
     " 'Zeige Matrix<Name>' wirkt, wie alle Anweisungen mit <Name>, nur dann, wenn im Feld "
     "'Name' der Name einer Matrix der Liste steht.\n"
-    " Die Matrix wird gerundet in das große Textfeld darunter ausgegeben.\n"
+    " Die Matrix wird gerundet in das große Textfeld, das Nachrichtenfenster, ausgegeben.\n"
     " Die Komponenten werden auf die Anzahl der Nachkommastellen gerundet, die mit dem "
     "Schieberegler links unten gewählt wurde (1 bis 10).\n"
     " Das Runden betrifft nur die Ausgabe; gerechnet wird immer mit der vollen Genauigkeit.\n\n"

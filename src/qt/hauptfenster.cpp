@@ -64,6 +64,7 @@ Hauptfenster::Hauptfenster(ViewController& vc, AppDelegate& delegate, QtPlattfor
     auto* links = new QVBoxLayout;
     links->addWidget(baueNamenszeile());
     links->addWidget(baueTableau());
+    links->addStretch(1);
     links->addWidget(baueTermzeile());
     links->addWidget(baueWerkzeugzeile());
     links->addStretch(1);

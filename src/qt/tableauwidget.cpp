@@ -57,12 +57,19 @@ TableauWidget::TableauWidget(ViewController& vc, QWidget* eltern) : QWidget(elte
     auto* gitter = new QGridLayout(this);
     gitter->setContentsMargins(0, 0, 0, 0);
     gitter->setSpacing(3);
-    const int breite = fontMetrics().horizontalAdvance(QStringLiteral("-0.0000000"));
+    // Matrices are what the user reads here: the cells get a slightly larger font than the
+    // window, and room for a signed number with seven decimals.
+    QFont schrift = font();
+    schrift.setPointSizeF(schrift.pointSizeF() * 1.15);
+    const QFontMetrics masse(schrift);
+    const int breite = masse.horizontalAdvance(QStringLiteral("-0.0000000"));
+    const int hoehe = masse.height() * 8 / 5;
     for (int i = 0; i < 8; ++i) {
         for (int j = 0; j < 8; ++j) {
             auto* feld = new QLineEdit(this);
             feld->setObjectName(QStringLiteral("a%1%2F").arg(i).arg(j));
-            feld->setMinimumWidth(breite);
+            feld->setFont(schrift);
+            feld->setMinimumSize(breite, hoehe);
             feld->setAlignment(Qt::AlignRight);
             // Hidden cells keep their place, so the visible block does not jump around.
             QSizePolicy politik = feld->sizePolicy();

@@ -28,8 +28,9 @@ int main(int argc, char** argv) {
     vc.zelle(1, 1).text = "4";
     vc.eingabeFb = "a";
     fenster.fensterAktion("einlistB");
-    vc.zeileF = "3";
-    fenster.menueAktion("genEinheitsmatrix");
+    vc.zeileF = "6";
+    vc.spalteF = "7";
+    fenster.fensterAktion("genZufallsMatrixB");
 
     QTimer::singleShot(300, &fenster, [&] {
         fenster.grab().save(QString::fromLocal8Bit(argv[1]));
