@@ -209,6 +209,16 @@ std::pair<std::string, bool> stringfeldDecode(const Zeichenfeld& meinFeld) {
 }
 
 std::pair<std::string, bool> codestringDecodieren(std::string_view code) {
+    // A sound list of 26 matrices is a few kilobytes; splitting into one text per character
+    // multiplies the memory many times, so a huge file is refused before that.
+    if (code.size() > groessteListendatei) {
+        return {abgelehnt("Sie ist zu groß für eine Matrixliste."), false};
+    }
+    // Tabulon writes no byte-order mark, but an editor may add one; it would become part of the
+    // first name.
+    if (code.starts_with("\xEF\xBB\xBF")) {
+        code.remove_prefix(3);
+    }
     return stringfeldDecode(zeichenFeld2Stringfeld(string2ZeichenFeldL(code)));
 }
 

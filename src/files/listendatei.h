@@ -11,6 +11,7 @@
 #include "terms/parser.h"
 #include "textmatrix/smatrix.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -46,7 +47,10 @@ ListenInhalt stringfeldPruefen(const Zeichenfeld& meinFeld);
 // the free names) when the whole field list is sound: ("", true). Otherwise (the note that
 // refuses the file, false), and the list is unchanged.
 std::pair<std::string, bool> stringfeldDecode(const Zeichenfeld& meinFeld);
+// The text of a list file: a leading byte-order mark is skipped, a text of more than
+// groessteListendatei bytes is refused.
 std::pair<std::string, bool> codestringDecodieren(std::string_view code);
+inline constexpr std::size_t groessteListendatei = 16 * 1024 * 1024;
 
 // A name that a file may bring into the list: not empty, nothing that could leave the documents
 // folder when it becomes part of a file name, and none of the marker names "?" and "Fehler".

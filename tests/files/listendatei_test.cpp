@@ -17,12 +17,12 @@ TEST_F(ListendateiTest, SchreibtDasBeispielAufsByte) {
 }
 
 TEST_F(ListendateiTest, LiestAuchUngewoehnlicheAberHarmloseDateien) {
-    // Blanks everywhere, a hand-edited name, an empty entry, an entry that reads "end", leading
-    // zeros in a count, a later record of the same name, and text after "end".
+    // A byte-order mark, blanks everywhere, a hand-edited name, an empty entry, an entry that reads
+    // "end", leading zeros in a count, a later record of the same name, and text after "end".
     liste("D", {{"9"}});
     liste("B", {{"8"}});
-    const auto [meldung, ok] =
-        codestringDecodieren(" a b %1%2%1 2%x%D%01%2%%end%D%1%1%-0. 5%end%alles danach%egal");
+    const auto [meldung, ok] = codestringDecodieren(
+        "\xEF\xBB\xBF a b %1%2%1 2%x%D%01%2%%end%D%1%1%-0. 5%end%alles danach%egal");
     EXPECT_TRUE(ok) << meldung;
     const auto& l = listenZustand();
     ASSERT_EQ(l.sMatrixListe.size(), 3u);
@@ -71,6 +71,8 @@ INSTANTIATE_TEST_SUITE_P(
         Kaputt{"E%1%1%5%A%2%", "Die Matrix A ist unvollständig."}, Kaputt{"%1%1%5%end%", name},
         Kaputt{"../x%1%1%5%end%", name}, Kaputt{"a\tb%1%1%5%end%", name},
         Kaputt{"?%1%1%5%end%", name}, Kaputt{"Fehler%1%1%5%end%", name},
+        Kaputt{std::string(groessteListendatei - 3, ' ') + "end%xyzw",
+               "Sie ist zu groß für eine Matrixliste."},
         // The damage comes after a good record: the good one must not be entered either.
         Kaputt{"E%1%1%5%/%1%1%5%end%", name}));
 
