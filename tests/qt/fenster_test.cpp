@@ -48,6 +48,7 @@ struct Aufbau {
         fenster = std::make_unique<Hauptfenster>(vc, delegate, plattform);
         plattform.blinken = [this] { ++blinkZaehler; };
         fenster->show();
+        QApplication::setActiveWindow(fenster.get());
     }
 
     template <typename T> T* finde(const QString& name) const {
@@ -177,7 +178,15 @@ private slots:
         QTest::mouseClick(a.finde<QPushButton>("protoDown"), Qt::LeftButton);
         QCOMPARE(a.blinkZaehler, vorher + 1);
 
+        // A menu shortcut works while the cursor is in a cell.
+        a.zelle(0, 0)->setFocus();
+        QTest::keyClick(a.zelle(0, 0), Qt::Key_R, Qt::ControlModifier);
+        QVERIFY(a.zelle(7, 7)->isVisible());
+        QVERIFY(!a.zelle(7, 7)->text().isEmpty());
+
         // Enter in the term field evaluates the term.
+        a.vc.zeileF = "2";
+        a.fenster->menueAktion("genEinheitsmatrix");
         a.vc.eingabeFb = "E";
         a.fenster->fensterAktion("einlistB");
         QTest::keyClicks(a.finde<QLineEdit>("eingabeF"), "E+E");
@@ -287,7 +296,6 @@ private slots:
 
     void tastaturFuehrtDurchDasTableau() {
         Aufbau a;
-        QApplication::setActiveWindow(a.fenster.get());
         a.zelle(0, 0)->setFocus();
         QTest::keyClick(a.zelle(0, 0), Qt::Key_Return);
         QCOMPARE(QApplication::focusWidget(), a.zelle(0, 1));
