@@ -14,6 +14,8 @@
 #include <string>
 #include <vector>
 
+#include <unistd.h>
+
 namespace tabulon {
 namespace {
 
@@ -53,10 +55,15 @@ protected:
         termZustandZuruecksetzen();
         plattform.pieps = 0;
         plattform.fragen.clear();
-        plattform.ordner = std::filesystem::path(::testing::TempDir()) / "tabulon_app_test";
+        // One folder per test and process: ctest runs the tests of this file side by side.
+        const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
+        plattform.ordner =
+            std::filesystem::path(::testing::TempDir()) /
+            ("tabulon_app_test_" + std::string(info->name()) + "_" + std::to_string(::getpid()));
         std::filesystem::remove_all(plattform.ordner);
         std::filesystem::create_directories(plattform.ordner);
     }
+    void TearDown() override { std::filesystem::remove_all(plattform.ordner); }
     Aufzeichnung plattform;
 };
 
