@@ -167,13 +167,13 @@ const std::string_view zufallsMatrixHT =
     " 'Zufalls (z,s)-Matrix' erzeugt im Eingabe-Tableau eine Zufallsmatrix mit z Zeilen und "
     "s Spalten; z und s stehen in ihren Feldern 'z =' und 's =' (Vorgabe: z=8, s=8).\n"
     " Ihre Komponenten sind ganze Zahlen aus dem Bereich -9...9.\n"
-    " Um die Matrix zu behalten, weist man sie einem Namen zu ('<-').\n\n"
+    " Um die Matrix zu behalten, weist man ihr einen Namen zu ('<-').\n\n"
     " Beispiel: eine symmetrische (5,5)-Matrix in sechs Schritten\n"
     " 1. In beide Felder 5 eintragen.\n"
     " 2. 'Zufalls (z,s)-Matrix' drücken.\n"
-    " 3. Die Matrix A zuweisen.\n"
-    " 4. 'Transponiere ..' drücken.\n"
-    " 5. Die Matrix T zuweisen.\n"
+    " 3. Im Feld 'Name' A eintragen und '<-' drücken.\n"
+    " 4. 'Transponiere ..' im Menü wählen.\n"
+    " 5. Im Feld 'Name' T eintragen und '<-' drücken.\n"
     " 6. A + T in das Termfeld eintragen und 'Term-Auswertung' drücken.";
 
 const std::string_view RundenHT =
