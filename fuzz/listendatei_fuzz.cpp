@@ -68,7 +68,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t gro
         pruefe(l.smNamen.count(name) == 0, "a listed name is not free");
         pruefe(!tex(name).empty(), "every listed matrix has a TeX block");
     }
-    pruefe(l.smNamen.size() + l.sMatrixListe.size() >= 26, "no free name was lost");
+    for (const std::string& x : alphabetGross()) {
+        pruefe((l.smNamen.count(x) == 1) != (l.sMatrixListe.count(x) == 1),
+               "each letter is either free or listed");
+    }
+    pruefe(l.smNamen.size() <= 26, "only letters are free names");
 
     if (!speicherHindernis()) {
         const std::string text = alleMatrizenCodieren();
