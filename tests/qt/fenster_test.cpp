@@ -292,6 +292,18 @@ private slots:
         QTest::mousePress(flaeche, Qt::LeftButton, Qt::ShiftModifier, rand);
         QTest::mouseRelease(flaeche, Qt::LeftButton, Qt::ShiftModifier, rand);
         QCOMPARE(a.blinkZaehler, 1);
+
+        // Dragging beeps on every move with a button held; a plain move does not.
+        const auto bewege = [&](Qt::MouseButtons knoepfe) {
+            QMouseEvent zug(QEvent::MouseMove, QPointF(rand), flaeche->mapToGlobal(QPointF(rand)),
+                            Qt::NoButton, knoepfe, Qt::NoModifier);
+            QApplication::sendEvent(flaeche, &zug);
+        };
+        bewege(Qt::LeftButton);
+        bewege(Qt::LeftButton);
+        QCOMPARE(a.blinkZaehler, 3);
+        bewege(Qt::NoButton);
+        QCOMPARE(a.blinkZaehler, 3);
     }
 
     void tastaturFuehrtDurchDasTableau() {
