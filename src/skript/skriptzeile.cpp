@@ -1,20 +1,26 @@
 #include "skript/skriptzeile.h"
 
-#include "app/appdelegate.h"
 #include "skript/zitat.h"
 
-#include <algorithm>
+#include <vector>
 
 namespace tabulon::skript {
 
 namespace {
 
+// A word of a line: a bare word, or the unescaped contents of a quoted text.
+struct Wort {
+    std::string text;
+    bool zitiert = false;
+};
+
+struct Woerter {
+    std::vector<Wort> woerter;
+    std::string fehler;
+};
+
 bool istLeerraum(char c) {
     return c == ' ' || c == '\t';
-}
-
-bool enthaelt(const std::vector<std::string_view>& liste, std::string_view name) {
-    return std::find(liste.begin(), liste.end(), name) != liste.end();
 }
 
 // A whole number from `von` to `bis` written with decimal digits only (no sign, no blanks).
@@ -58,39 +64,8 @@ bool passt(const std::vector<Wort>& w, std::initializer_list<bool> muster) {
     return true;
 }
 
-} // namespace
-
-const std::vector<std::string_view>& eingabeFelder() {
-    static const std::vector<std::string_view> namen = {
-        "eingabeFb", "eingabeF", "zeileF", "spalteF", "skalarF", "zaehlF", "seitenF"};
-    return namen;
-}
-
-const std::vector<std::string_view>& anzeigeFelder() {
-    static const std::vector<std::string_view> namen = {
-        "eingabeFb", "eingabeF", "ausgabeF", "notizF",  "zeileF",     "spalteF",
-        "skalarF",   "zaehlF",   "mListeF",  "seitenF", "dezimalenF", "ueberschreibLabel"};
-    return namen;
-}
-
-const std::vector<std::string_view>& knopfNamen() {
-    static const std::vector<std::string_view> namen = {
-        "einlistB",        "auslistB",  "freierMatrixNameB",
-        "name2SMatrixB",   "rundenB",   "genZufallsMatrixB",
-        "tableauRaendern", "einfuegen", "entfernen",
-        "tableauLoeschB",  "rplusB",    "rminusB",
-        "cplusB",          "cminusB",   "quitB",
-        "protoUp",         "protoDown", "protoDelSeite",
-        "neueSeite"};
-    return namen;
-}
-
-const std::vector<std::string_view>& anzeigen() {
-    static const std::vector<std::string_view> namen = {
-        "hintergrund", "tableau", "einaus", "liste", "protokoll", "einstellungen"};
-    return namen;
-}
-
+// Splits a line at blanks and tabs; an error text when a quote is not closed, an escape is
+// unknown or a quote touches the next word.
 Woerter zerlegeWoerter(std::string_view zeile) {
     Woerter ergebnis;
     std::size_t i = 0;
@@ -157,6 +132,8 @@ Woerter zerlegeWoerter(std::string_view zeile) {
     }
 }
 
+} // namespace
+
 Zeilenergebnis zerlegeZeile(std::string_view zeile) {
     // A script written on Windows still reads line by line.
     if (!zeile.empty() && zeile.back() == '\r') {
@@ -180,9 +157,6 @@ Zeilenergebnis zerlegeZeile(std::string_view zeile) {
     if (wort == "feld") {
         if (!passt(w, {false, true})) {
             return fehler("erwartet: feld NAME \"TEXT\"");
-        }
-        if (!enthaelt(eingabeFelder(), b.name)) {
-            return fehler("unbekanntes Eingabefeld " + zitiert(b.name));
         }
         b.art = Befehlsart::feld;
         b.text = w[2].text;
@@ -236,9 +210,6 @@ Zeilenergebnis zerlegeZeile(std::string_view zeile) {
         if (!passt(w, {false})) {
             return fehler("erwartet: knopf NAME");
         }
-        if (!enthaelt(knopfNamen(), b.name)) {
-            return fehler("unbekannter Knopf " + zitiert(b.name));
-        }
         b.art = Befehlsart::knopf;
         return befehl(std::move(b));
     }
@@ -246,19 +217,12 @@ Zeilenergebnis zerlegeZeile(std::string_view zeile) {
         if (!passt(w, {false})) {
             return fehler("erwartet: menue NAME");
         }
-        const auto& menue = AppDelegate::menueNamen();
-        if (std::find(menue.begin(), menue.end(), b.name) == menue.end()) {
-            return fehler("unbekannte Menüaktion " + zitiert(b.name));
-        }
         b.art = Befehlsart::menue;
         return befehl(std::move(b));
     }
     if (wort == "zeige") {
         if (!passt(w, {false})) {
             return fehler("erwartet: zeige WAS");
-        }
-        if (!enthaelt(anzeigeFelder(), b.name) && !enthaelt(anzeigen(), b.name)) {
-            return fehler("unbekannte Anzeige " + zitiert(b.name));
         }
         b.art = Befehlsart::zeige;
         return befehl(std::move(b));

@@ -1,13 +1,13 @@
 #pragma once
-// One line of a tabulon-skript script, taken apart and checked before anything runs: a command
-// word, bare words and numbers, and texts in double quotes. A line that cannot be run never
-// reaches the window; it yields an error text instead, which the driver reports with the line's
+// One line of a tabulon-skript script, taken apart and checked for its shape before anything runs:
+// a command word, bare words and numbers, and texts in double quotes. Whether a field, button,
+// menu action or display of that name exists is the driver's check, which knows the window. A
+// line that cannot be run yields an error text instead, which the driver reports with the line's
 // number.
 
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tabulon::skript {
 
@@ -34,27 +34,5 @@ struct Zeilenergebnis {
 };
 
 Zeilenergebnis zerlegeZeile(std::string_view zeile);
-
-// A word of a line: a bare word, or the unescaped contents of a quoted text.
-struct Wort {
-    std::string text;
-    bool zitiert = false;
-
-    bool operator==(const Wort&) const = default;
-};
-
-// Splits a line at blanks and tabs; an error text when a quote is not closed, an escape is
-// unknown or a quote touches the next word.
-struct Woerter {
-    std::vector<Wort> woerter;
-    std::string fehler;
-};
-Woerter zerlegeWoerter(std::string_view zeile);
-
-// The names the commands accept.
-const std::vector<std::string_view>& eingabeFelder(); // feld
-const std::vector<std::string_view>& anzeigeFelder(); // zeige NAME of a text field
-const std::vector<std::string_view>& knopfNamen();    // knopf
-const std::vector<std::string_view>& anzeigen();      // zeige, the other forms
 
 } // namespace tabulon::skript

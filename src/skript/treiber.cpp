@@ -5,7 +5,8 @@
 #include "window/ganzzahltext.h"
 #include "window/tableau.h"
 
-#include <map>
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 namespace tabulon::skript {
@@ -14,26 +15,45 @@ namespace {
 
 using Textfeld = std::string ViewController::*;
 
-// Every text field a script may name; `feld` accepts only the ones the user can type into, which
-// skriptzeile has already checked.
-Textfeld textfeld(std::string_view name) {
-    static const std::map<std::string_view, Textfeld> felder = {
-        {"eingabeFb", &ViewController::eingabeFb},
-        {"eingabeF", &ViewController::eingabeF},
-        {"ausgabeF", &ViewController::ausgabeF},
-        {"notizF", &ViewController::notizF},
-        {"zeileF", &ViewController::zeileF},
-        {"spalteF", &ViewController::spalteF},
-        {"skalarF", &ViewController::skalarF},
-        {"zaehlF", &ViewController::zaehlF},
-        {"mListeF", &ViewController::mListeF},
-        {"seitenF", &ViewController::seitenF},
-        {"dezimalenF", &ViewController::dezimalenF},
-        {"ueberschreibLabel", &ViewController::ueberschreibLabel},
-    };
-    const auto gefunden = felder.find(name);
-    return gefunden == felder.end() ? nullptr : gefunden->second;
+struct Feld {
+    std::string_view name;
+    Textfeld wert;
+    bool tippbar; // `feld` may type into it; the others are the window's answers
+};
+
+// Every text field a script may name.
+constexpr Feld felder[] = {
+    {"eingabeFb", &ViewController::eingabeFb, true},
+    {"eingabeF", &ViewController::eingabeF, true},
+    {"ausgabeF", &ViewController::ausgabeF, false},
+    {"notizF", &ViewController::notizF, false},
+    {"zeileF", &ViewController::zeileF, true},
+    {"spalteF", &ViewController::spalteF, true},
+    {"skalarF", &ViewController::skalarF, true},
+    {"zaehlF", &ViewController::zaehlF, true},
+    {"mListeF", &ViewController::mListeF, false},
+    {"seitenF", &ViewController::seitenF, true},
+    {"dezimalenF", &ViewController::dezimalenF, false},
+    {"ueberschreibLabel", &ViewController::ueberschreibLabel, false},
+};
+
+const Feld* textfeld(std::string_view name) {
+    for (const Feld& f : felder) {
+        if (f.name == name) {
+            return &f;
+        }
+    }
+    return nullptr;
 }
+
+// The window's buttons; its other actions (slider, checkbox) have their own script commands.
+constexpr std::string_view knoepfe[] = {"einlistB",        "auslistB",  "freierMatrixNameB",
+                                        "name2SMatrixB",   "rundenB",   "genZufallsMatrixB",
+                                        "tableauRaendern", "einfuegen", "entfernen",
+                                        "tableauLoeschB",  "rplusB",    "rminusB",
+                                        "cplusB",          "cminusB",   "quitB",
+                                        "protoUp",         "protoDown", "protoDelSeite",
+                                        "neueSeite"};
 
 // One entry of the in/out matrix; a matrix that lost its 8 x 8 shape shows "" where it has none.
 std::string eintrag(const SMatrix& m, int i, int j) {
@@ -59,10 +79,10 @@ Treiber::Treiber(SkriptPlattform& plattform) : plattform(plattform), vc(plattfor
     delegate.applicationDidFinishLaunching();
 }
 
-void Treiber::zeige(const std::string& was) {
-    if (const Textfeld feld = textfeld(was)) {
-        plattform.zeile(was + " " + zitiert(vc.*feld));
-        return;
+bool Treiber::zeige(const std::string& was) {
+    if (const Feld* feld = textfeld(was)) {
+        plattform.zeile(was + " " + zitiert(vc.*(feld->wert)));
+        return true;
     }
     if (was == "hintergrund") {
         plattform.zeile(vc.eingabeFbGruen ? "hintergrund gruen" : "hintergrund weiss");
@@ -107,14 +127,22 @@ void Treiber::zeige(const std::string& was) {
         const auto& liste = listenZustand();
         plattform.zeile("einstellungen " + ganzText(liste.dezimalen) + " " +
                         (liste.ueberschreiben ? "an" : "aus"));
+    } else {
+        return false;
     }
+    return true;
 }
 
 std::string Treiber::ausfuehren(const Befehl& befehl) {
     switch (befehl.art) {
-    case Befehlsart::feld:
-        vc.*textfeld(befehl.name) = befehl.text;
+    case Befehlsart::feld: {
+        const Feld* feld = textfeld(befehl.name);
+        if (feld == nullptr || !feld->tippbar) {
+            return "unbekanntes Eingabefeld " + zitiert(befehl.name);
+        }
+        vc.*(feld->wert) = befehl.text;
         break;
+    }
     case Befehlsart::zelle:
         // Typing changes the cell only; the commands read it into the in/out matrix themselves.
         vc.zelle(befehl.zeile, befehl.spalte).text = befehl.text;
@@ -131,8 +159,9 @@ std::string Treiber::ausfuehren(const Befehl& befehl) {
         plattform.antwortVormerken(befehl.text);
         break;
     case Befehlsart::knopf:
-        if (!vc.fensterAktion(befehl.name)) {
-            return "das Fenster kennt den Knopf " + zitiert(befehl.name) + " nicht";
+        if (std::find(std::begin(knoepfe), std::end(knoepfe), befehl.name) == std::end(knoepfe) ||
+            !vc.fensterAktion(befehl.name)) {
+            return "unbekannter Knopf " + zitiert(befehl.name);
         }
         break;
     case Befehlsart::menue:
@@ -141,7 +170,9 @@ std::string Treiber::ausfuehren(const Befehl& befehl) {
         }
         break;
     case Befehlsart::zeige:
-        zeige(befehl.name);
+        if (!zeige(befehl.name)) {
+            return "unbekannte Anzeige " + zitiert(befehl.name);
+        }
         break;
     }
     return {};

@@ -20,8 +20,8 @@ public:
     Treiber(const Treiber&) = delete;
     Treiber& operator=(const Treiber&) = delete;
 
-    // Runs one checked command; an error text when the window or the delegate does not know the
-    // action after all, else an empty text.
+    // Runs one command; an error text when the window has no field, button or display of its
+    // name or the delegate no such menu action (and then nothing has happened), else "".
     std::string ausfuehren(const Befehl& befehl);
 
     // Runs the script line by line, each line as soon as it is read. Returns 0 at its end, or 2
@@ -34,7 +34,7 @@ public:
     AppDelegate delegate;
 
 private:
-    void zeige(const std::string& was);
+    bool zeige(const std::string& was); // false for an unknown display
 };
 
 } // namespace tabulon::skript

@@ -1,6 +1,7 @@
-// The driver's platform and its run over whole scripts: what each event prints, the random source,
-// the documents folder and where a script stops.
+// The driver's random source, its documents folder and its run over whole scripts: which names it
+// knows and where a script stops.
 
+#include "app/appdelegate.h"
 #include "skript/dokumente.h"
 #include "skript/skriptplattform.h"
 #include "skript/treiber.h"
@@ -51,68 +52,60 @@ TEST(Dokumente, FollowsXdgThenHome) {
     altHome ? setenv("HOME", home.c_str(), 1) : unsetenv("HOME");
 }
 
-TEST(SkriptPlattform, QuestionsTakeTheQueuedAnswersInOrder) {
+// Runs the script without a documents folder and returns (exit status, output, error output).
+std::tuple<int, std::string, std::string> lauf(const std::string& skript) {
+    listenZustandZuruecksetzen();
+    tableauZustandZuruecksetzen();
+    protokollZustandZuruecksetzen();
+    termZustandZuruecksetzen();
     std::ostringstream aus;
-    std::vector<int> enden;
-    SkriptPlattform p(aus, 1, {}, [&](int s) { enden.push_back(s); });
-    p.antwortVormerken("Nein");
-    p.antwortVormerken("Ja");
-    p.antwortVormerken("Vielleicht");
-    EXPECT_EQ(p.frage("Wirklich?", "Ja", "Nein"), Plattform::zweiterKnopf);
-    EXPECT_EQ(p.frage("Noch\tmal \"?\"", "Ja", "Nein"), Plattform::ersterKnopf);
-    const int weder = p.frage("Und?", "Ja", "Nein");
-    EXPECT_NE(weder, Plattform::ersterKnopf);
-    EXPECT_NE(weder, Plattform::zweiterKnopf);
-    const int nichts = p.frage("Leer?", "Ja", "Nein"); // the queue is empty now
-    EXPECT_NE(nichts, Plattform::ersterKnopf);
-    EXPECT_NE(nichts, Plattform::zweiterKnopf);
-    p.piep();
-    p.beenden(3);
-    EXPECT_EQ(aus.str(), "frage \"Wirklich?\" \"Ja\" \"Nein\" -> \"Nein\"\n"
-                         "frage \"Noch\\tmal \\\"?\\\"\" \"Ja\" \"Nein\" -> \"Ja\"\n"
-                         "frage \"Und?\" \"Ja\" \"Nein\" -> \"Fehler\"\n"
-                         "frage \"Leer?\" \"Ja\" \"Nein\" -> \"Fehler\"\n"
-                         "piep\n"
-                         "ende 3\n");
-    EXPECT_EQ(enden, std::vector<int>{3});
-    EXPECT_EQ(p.dokumentenOrdner(), std::nullopt);
+    std::ostringstream fehler;
+    SkriptPlattform p(aus, 1, {}, [](int) {});
+    Treiber t(p);
+    std::istringstream ein(skript);
+    const int status = t.lauf(ein, fehler, "test.skript");
+    return {status, aus.str(), fehler.str()};
 }
 
-class TreiberTest : public ::testing::Test {
-protected:
-    void SetUp() override {
-        listenZustandZuruecksetzen();
-        tableauZustandZuruecksetzen();
-        protokollZustandZuruecksetzen();
-        termZustandZuruecksetzen();
-    }
-
-    // Runs the script and returns (exit status, standard output, standard error).
-    std::tuple<int, std::string, std::string> lauf(const std::string& skript) {
-        std::ostringstream aus;
-        std::ostringstream fehler;
-        SkriptPlattform p(aus, 1, {}, [](int) {});
-        Treiber t(p);
-        std::istringstream ein(skript);
-        const int status = t.lauf(ein, fehler, "test.skript");
-        return {status, aus.str(), fehler.str()};
-    }
-};
-
-TEST_F(TreiberTest, StopsAtTheFirstBadLineAndNamesIt) {
+TEST(Treiber, StopsAtTheFirstUnknownNameAndNamesTheLine) {
     const std::pair<std::string, std::string> faelle[] = {
-        {"\xEF\xBB\xBFzeige eingabeFb\nregler 11\nzeige eingabeFb\n",
-         "tabulon-skript: test.skript, Zeile 2: erwartet: regler N mit einer ganzen Zahl N von 1 "
-         "bis 10\n"},
-        {"zeige eingabeFb\n\n# x\nfeld mListeF \"A\"\nzeige eingabeFb\n",
-         "tabulon-skript: test.skript, Zeile 4: unbekanntes Eingabefeld \"mListeF\"\n"},
+        {"\xEF\xBB\xBFzeige eingabeFb\nregler 11\n",
+         "Zeile 2: erwartet: regler N mit einer ganzen Zahl N von 1 bis 10"},
+        {"zeige eingabeFb\n\n# x\nfeld mListeF \"A\"\n",
+         "Zeile 4: unbekanntes Eingabefeld \"mListeF\""},
+        {"zeige eingabeFb\nfeld eingabefb \"A\"\n",
+         "Zeile 2: unbekanntes Eingabefeld \"eingabefb\""},
+        {"zeige eingabeFb\nknopf dezimalSlider\n", "Zeile 2: unbekannter Knopf \"dezimalSlider\""},
+        {"zeige eingabeFb\nknopf termAuswerten\n", "Zeile 2: unbekannter Knopf \"termAuswerten\""},
+        {"zeige eingabeFb\nmenue einlistB\n", "Zeile 2: unbekannte Menüaktion \"einlistB\""},
+        {"zeige eingabeFb\nzeige nichts\n", "Zeile 2: unbekannte Anzeige \"nichts\""},
     };
     for (const auto& [skript, meldung] : faelle) {
-        const auto [status, aus, fehler] = lauf(skript);
+        const auto [status, aus, fehler] = lauf(skript + "zeige notizF\n");
         EXPECT_EQ(status, 2);
         EXPECT_EQ(aus, "eingabeFb \"\"\n"); // what ran before the bad line stays printed
-        EXPECT_EQ(fehler, meldung);
+        EXPECT_EQ(fehler, "tabulon-skript: test.skript, " + meldung + "\n");
     }
+}
+
+// Every button and menu entry of the script language reaches the window; with no answers queued,
+// quitting and every other question end as "no".
+TEST(Treiber, KnowsEveryButtonAndMenuAction) {
+    std::string skript;
+    for (const char* knopf :
+         {"einlistB", "auslistB", "freierMatrixNameB", "name2SMatrixB", "rundenB",
+          "genZufallsMatrixB", "tableauRaendern", "einfuegen", "entfernen", "tableauLoeschB",
+          "rplusB", "rminusB", "cplusB", "cminusB", "quitB", "protoUp", "protoDown",
+          "protoDelSeite", "neueSeite"}) {
+        skript += std::string("knopf ") + knopf + "\n";
+    }
+    for (const auto name : AppDelegate::menueNamen()) {
+        skript += "menue " + std::string(name) + "\n";
+    }
+    const auto [status, aus, fehler] = lauf(skript);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(fehler, "");
+    EXPECT_EQ(("\n" + aus).find("\nende "), std::string::npos);
 }
 
 } // namespace
