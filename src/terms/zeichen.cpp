@@ -109,177 +109,14 @@ char32_t paar(char32_t c, bool grossGerade) {
     return gerade == grossGerade ? c : c - 1;
 }
 
-char32_t lateinischB(char32_t c) {
-    switch (c) {
-    case 0x0180:
-        return 0x0243;
-    case 0x0183:
-        return 0x0182;
-    case 0x0185:
-        return 0x0184;
-    case 0x0188:
-        return 0x0187;
-    case 0x018C:
-        return 0x018B;
-    case 0x0192:
-        return 0x0191;
-    case 0x0195:
-        return 0x01F6;
-    case 0x0199:
-        return 0x0198;
-    case 0x019A:
-        return 0x023D;
-    case 0x019E:
-        return 0x0220;
-    case 0x01A1:
-        return 0x01A0;
-    case 0x01A3:
-        return 0x01A2;
-    case 0x01A5:
-        return 0x01A4;
-    case 0x01A8:
-        return 0x01A7;
-    case 0x01AD:
-        return 0x01AC;
-    case 0x01B0:
-        return 0x01AF;
-    case 0x01B4:
-        return 0x01B3;
-    case 0x01B6:
-        return 0x01B5;
-    case 0x01B9:
-        return 0x01B8;
-    case 0x01BD:
-        return 0x01BC;
-    case 0x01BF:
-        return 0x01F7;
-    case 0x01C5:
-    case 0x01C6:
-        return 0x01C4;
-    case 0x01C8:
-    case 0x01C9:
-        return 0x01C7;
-    case 0x01CB:
-    case 0x01CC:
-        return 0x01CA;
-    case 0x01DD:
-        return 0x018E;
-    case 0x01F2:
-    case 0x01F3:
-        return 0x01F1;
-    case 0x01F5:
-        return 0x01F4;
-    case 0x023C:
-        return 0x023B;
-    case 0x0242:
-        return 0x0241;
-    default:
-        break;
-    }
-    if (zwischen(c, 0x01CD, 0x01DC)) {
-        return paar(c, false);
-    }
-    if (zwischen(c, 0x01DE, 0x01EF) || zwischen(c, 0x01F8, 0x021F) || zwischen(c, 0x0222, 0x0233) ||
-        zwischen(c, 0x0246, 0x024F)) {
-        return paar(c, true);
-    }
-    return c;
-}
-
-char32_t griechisch(char32_t c) {
-    switch (c) {
-    case 0x0345:
-        return 0x0399;
-    case 0x0371:
-        return 0x0370;
-    case 0x0373:
-        return 0x0372;
-    case 0x0377:
-        return 0x0376;
-    case 0x037B:
-        return 0x03FD;
-    case 0x037C:
-        return 0x03FE;
-    case 0x037D:
-        return 0x03FF;
-    case 0x03AC:
-        return 0x0386;
-    case 0x03AD:
-        return 0x0388;
-    case 0x03AE:
-        return 0x0389;
-    case 0x03AF:
-        return 0x038A;
-    case 0x03C2:
-        return 0x03A3;
-    case 0x03CC:
-        return 0x038C;
-    case 0x03CD:
-        return 0x038E;
-    case 0x03CE:
-        return 0x038F;
-    case 0x03D0:
-        return 0x0392;
-    case 0x03D1:
-        return 0x0398;
-    case 0x03D5:
-        return 0x03A6;
-    case 0x03D6:
-        return 0x03A0;
-    case 0x03D7:
-        return 0x03CF;
-    case 0x03F0:
-        return 0x039A;
-    case 0x03F1:
-        return 0x03A1;
-    case 0x03F2:
-        return 0x03F9;
-    case 0x03F3:
-        return 0x037F;
-    case 0x03F5:
-        return 0x0395;
-    case 0x03F8:
-        return 0x03F7;
-    case 0x03FB:
-        return 0x03FA;
-    default:
-        break;
-    }
-    if (zwischen(c, 0x03B1, 0x03CB)) {
-        return c - 0x20;
-    }
-    if (zwischen(c, 0x03D8, 0x03EF)) {
-        return paar(c, true);
-    }
-    return c;
-}
-
-char32_t kyrillisch(char32_t c) {
-    if (zwischen(c, 0x0430, 0x044F)) {
-        return c - 0x20;
-    }
-    if (zwischen(c, 0x0450, 0x045F)) {
-        return c - 0x50;
-    }
-    if (c == 0x04CF) {
-        return 0x04C0;
-    }
-    if (zwischen(c, 0x04C1, 0x04CE)) {
-        return paar(c, false);
-    }
-    if (zwischen(c, 0x0460, 0x0481) || zwischen(c, 0x048A, 0x04BF) || zwischen(c, 0x04D0, 0x052F)) {
-        return paar(c, true);
-    }
-    return c;
-}
-
-// The one-to-one upper-case mapping.
+// The one-to-one upper-case mapping of the letters that keyboards and input methods type:
+// Latin-1, Latin Extended-A, Latin Extended Additional (Vietnamese), Greek, Cyrillic, Armenian
+// and the fullwidth Latin letters. Every other code point stays as it is; that only changes how
+// a token that the syntax check rejects anyway looks, because only "a" ... "z", the dotless "ı"
+// and the long "ſ" become names.
 char32_t einfachGross(char32_t c) {
     if (zwischen(c, 'a', 'z')) {
         return c - 0x20;
-    }
-    if (c < 0x80) {
-        return c;
     }
     if (c == 0x00B5) {
         return 0x039C;
@@ -290,48 +127,47 @@ char32_t einfachGross(char32_t c) {
     if (c == 0x00FF) {
         return 0x0178;
     }
-    if (zwischen(c, 0x0100, 0x017F)) {
-        if (c == 0x0131) {
-            return 'I';
-        }
-        if (c == 0x017F) {
-            return 'S';
-        }
-        if (zwischen(c, 0x0100, 0x012F) || zwischen(c, 0x0132, 0x0137) ||
-            zwischen(c, 0x014A, 0x0177)) {
-            return paar(c, true);
-        }
-        if (zwischen(c, 0x0139, 0x0148) || zwischen(c, 0x0179, 0x017E)) {
-            return paar(c, false);
-        }
-        return c;
+    if (c == 0x0131) {
+        return 'I';
     }
-    if (zwischen(c, 0x0180, 0x024F)) {
-        return lateinischB(c);
+    if (c == 0x017F) {
+        return 'S';
     }
-    if (c == 0x0345 || zwischen(c, 0x0370, 0x03FF)) {
-        return griechisch(c);
+    if (zwischen(c, 0x0100, 0x012F) || zwischen(c, 0x0132, 0x0137) || zwischen(c, 0x014A, 0x0177) ||
+        zwischen(c, 0x1E00, 0x1E95) || zwischen(c, 0x1EA0, 0x1EFF) || zwischen(c, 0x0460, 0x0481) ||
+        zwischen(c, 0x048A, 0x04BF) || zwischen(c, 0x04D0, 0x052F)) {
+        return paar(c, true);
     }
-    if (zwischen(c, 0x0400, 0x052F)) {
-        return kyrillisch(c);
+    if (zwischen(c, 0x0139, 0x0148) || zwischen(c, 0x0179, 0x017E) || zwischen(c, 0x04C1, 0x04CE)) {
+        return paar(c, false);
+    }
+    switch (c) {
+    case 0x03AC:
+        return 0x0386;
+    case 0x03AD:
+    case 0x03AE:
+    case 0x03AF:
+        return c - 0x25;
+    case 0x03C2:
+        return 0x03A3;
+    case 0x03CC:
+        return 0x038C;
+    case 0x03CD:
+    case 0x03CE:
+        return c - 0x3F;
+    case 0x04CF:
+        return 0x04C0;
+    default:
+        break;
+    }
+    if (zwischen(c, 0x03B1, 0x03CB) || zwischen(c, 0x0430, 0x044F) || zwischen(c, 0xFF41, 0xFF5A)) {
+        return c - 0x20;
+    }
+    if (zwischen(c, 0x0450, 0x045F)) {
+        return c - 0x50;
     }
     if (zwischen(c, 0x0561, 0x0586)) {
         return c - 0x30;
-    }
-    if (c == 0x1E9B) {
-        return 0x1E60;
-    }
-    if (zwischen(c, 0x1E00, 0x1E95) || zwischen(c, 0x1EA0, 0x1EFF)) {
-        return paar(c, true);
-    }
-    if (zwischen(c, 0x2170, 0x217F)) {
-        return c - 0x10;
-    }
-    if (zwischen(c, 0x24D0, 0x24E9)) {
-        return c - 0x1A;
-    }
-    if (zwischen(c, 0xFF41, 0xFF5A)) {
-        return c - 0x20;
     }
     return c;
 }
@@ -341,26 +177,12 @@ const char32_t* mehrfachGross(char32_t c) {
     switch (c) {
     case 0x00DF:
         return U"SS";
-    case 0x0149:
-        return U"\u02BCN";
-    case 0x01F0:
-        return U"J\u030C";
     case 0x0390:
         return U"\u0399\u0308\u0301";
     case 0x03B0:
         return U"\u03A5\u0308\u0301";
     case 0x0587:
         return U"\u0535\u0552";
-    case 0x1E96:
-        return U"H\u0331";
-    case 0x1E97:
-        return U"T\u0308";
-    case 0x1E98:
-        return U"W\u030A";
-    case 0x1E99:
-        return U"Y\u030A";
-    case 0x1E9A:
-        return U"A\u02BE";
     case 0xFB00:
         return U"FF";
     case 0xFB01:
@@ -374,16 +196,6 @@ const char32_t* mehrfachGross(char32_t c) {
     case 0xFB05:
     case 0xFB06:
         return U"ST";
-    case 0xFB13:
-        return U"\u0544\u0546";
-    case 0xFB14:
-        return U"\u0544\u0535";
-    case 0xFB15:
-        return U"\u0544\u053B";
-    case 0xFB16:
-        return U"\u054E\u0546";
-    case 0xFB17:
-        return U"\u0544\u053D";
     default:
         return nullptr;
     }

@@ -15,9 +15,9 @@ namespace tabulon {
 std::vector<std::string_view> zeichenZerlegen(std::string_view text);
 
 // The full upper-case mapping of one character, code point by code point: "ä" -> "Ä",
-// "ß" -> "SS", "ı" -> "I". Covers Latin (Basic, Latin-1, Extended-A, -B and Additional),
-// Greek, Cyrillic, Armenian, the Latin and Armenian ligatures and the fullwidth letters; every
-// other code point, and every malformed byte, stays as it is.
+// "ß" -> "SS", "ı" -> "I". Covers the letters that keyboards type (Latin-1, Latin Extended-A and
+// Additional, Greek, Cyrillic, Armenian, fullwidth Latin) and the Latin ligatures; every other
+// code point, and every malformed byte, stays as it is.
 std::string grossGeschrieben(std::string_view zeichen);
 
 } // namespace tabulon
