@@ -63,8 +63,10 @@ Hauptfenster::Hauptfenster(ViewController& vc, AppDelegate& delegate, QtPlattfor
 
     auto* links = new QVBoxLayout;
     links->addWidget(baueNamenszeile());
+    // The commands follow the tableau directly; the free height collects above the note line,
+    // which stays at the bottom next to the settings.
     links->addWidget(baueTableau());
-    links->addStretch(1);
+    links->addSpacing(8);
     links->addWidget(baueTermzeile());
     links->addWidget(baueWerkzeugzeile());
     links->addStretch(1);

@@ -10,7 +10,6 @@
 
 #include <filesystem>
 #include <functional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -170,21 +169,6 @@ TEST_F(AppDelegateTest, NothingHappensBeforeTheWindowRegisters) {
     EXPECT_TRUE(listenZustand().sMatrixListe.empty());
     EXPECT_EQ(protokollZustand().maxSeitenNr, 0);
     EXPECT_TRUE(std::filesystem::is_empty(plattform.ordner));
-}
-
-TEST_F(AppDelegateTest, UnknownNamesFireNothing) {
-    ViewController vc(plattform);
-    AppDelegate delegate;
-    vc.viewDidLoad([&](ViewController& v) { delegate.mainVC = &v; });
-    vc.zelle(0, 0).text = "7";
-    for (const char* name : {"", "einlistB", "TableauLoeschen", "termauswerten", "quitB"}) {
-        EXPECT_FALSE(delegate.menueAktion(name)) << name;
-    }
-    EXPECT_EQ(vc.zelle(0, 0).text, "7");
-    EXPECT_EQ(plattform.pieps, 0);
-
-    const auto& namen = AppDelegate::menueNamen();
-    EXPECT_EQ(std::set<std::string_view>(namen.begin(), namen.end()).size(), namen.size());
 }
 
 } // namespace
