@@ -79,37 +79,33 @@ void ViewController::raendern() {
 
 void ViewController::einfuegen() {
     liesStringMatrix();
-    if (tableauZustand().strEinAusMatrix(0, 0).empty()) {
+    // Blanks count as empty here as everywhere in the tableau.
+    if (istLeerzeichen(tableauZustand().strEinAusMatrix(0, 0))) {
         plattform.piep();
         spalteF.clear();
         zeileF.clear();
         return;
     }
     std::string text;
+    // A trimmed matrix that is already 8 wide (or high) comes back from the insertion unchanged;
+    // it is still written back and the field cleared, and only the note says why nothing moved.
     if (const auto s = strengeGanzzahl(spalteF)) {
         const SMatrix t = tableauZustand().strEinAusMatrix.getrimmt();
         if (*s >= 0 && *s <= tableauZustand().columnmax && *s <= t.columns) {
-            if (t.columns >= 8) {
-                // No ninth column: the tableau stays exactly as it is, the field as typed.
-                text = "Die Matrix hat schon 8 Spalten.\n";
-            } else {
-                schreibInsTableau(t.spalteEinfuegen(*s));
-                spalteF.clear();
-                text = "Spalte " + ganzText(*s) + " wurde eingefügt\n";
-            }
+            schreibInsTableau(t.spalteEinfuegen(*s));
+            spalteF.clear();
+            text = t.columns >= 8 ? "Die Matrix hat schon 8 Spalten.\n"
+                                  : "Spalte " + ganzText(*s) + " wurde eingefügt\n";
         }
     }
     if (const auto z = strengeGanzzahl(zeileF)) {
         liesStringMatrix();
         const SMatrix t = tableauZustand().strEinAusMatrix.getrimmt();
         if (*z >= 0 && *z <= tableauZustand().rowmax && *z <= t.rows) {
-            if (t.rows >= 8) {
-                text += "Die Matrix hat schon 8 Zeilen.\n";
-            } else {
-                schreibInsTableau(t.zeileEinfuegen(*z));
-                zeileF.clear();
-                text += "Zeile " + ganzText(*z) + " wurde eingefügt\n";
-            }
+            schreibInsTableau(t.zeileEinfuegen(*z));
+            zeileF.clear();
+            text += t.rows >= 8 ? "Die Matrix hat schon 8 Zeilen.\n"
+                                : "Zeile " + ganzText(*z) + " wurde eingefügt\n";
         }
     }
     notiz(text);

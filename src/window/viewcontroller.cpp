@@ -3,6 +3,7 @@
 
 #include "window/viewcontroller.h"
 
+#include "terms/zeichen.h"
 #include "textmatrix/liste.h"
 #include "window/ganzzahltext.h"
 #include "window/tableau.h"
@@ -12,41 +13,6 @@
 #include <map>
 
 namespace tabulon {
-
-namespace {
-
-// Upper case as the name field shows it. ASCII letters, the small letters of Latin-1 (UTF-8
-// C3 A0 ... C3 BE without the division sign) and ß, which becomes SS; every other byte stays as
-// it is, so a text that is no valid UTF-8 passes through unharmed.
-std::string grossGeschrieben(const std::string& text) {
-    std::string ergebnis;
-    ergebnis.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto c = static_cast<unsigned char>(text[i]);
-        if (c >= 'a' && c <= 'z') {
-            ergebnis.push_back(static_cast<char>(c - 'a' + 'A'));
-            continue;
-        }
-        if (c == 0xC3 && i + 1 < text.size()) {
-            const auto d = static_cast<unsigned char>(text[i + 1]);
-            if (d == 0x9F) { // ß
-                ergebnis += "SS";
-                ++i;
-                continue;
-            }
-            if (d >= 0xA0 && d <= 0xBE && d != 0xB7) {
-                ergebnis.push_back(static_cast<char>(c));
-                ergebnis.push_back(static_cast<char>(d - 0x20));
-                ++i;
-                continue;
-            }
-        }
-        ergebnis.push_back(static_cast<char>(c));
-    }
-    return ergebnis;
-}
-
-} // namespace
 
 void ViewController::viewDidLoad(const std::function<void(ViewController&)>& beimDelegateAnmelden) {
     infoUndHilfeBGelb = true;
@@ -185,6 +151,7 @@ void ViewController::notizloeschen() {
     notiz("");
 }
 
+// The same upper-casing as the term tokenizer's, so a name reads alike in both places.
 std::string ViewController::liesName() {
     eingabeFb = grossGeschrieben(eingabeFb);
     return eingabeFb;

@@ -105,8 +105,6 @@ protected:
         listenZustand().smNamen.erase(name);
     }
 
-    int seiten() const { return protokollZustand().maxSeitenNr; }
-
     TestPlattform plattform;
     ViewController vc{plattform};
 };
