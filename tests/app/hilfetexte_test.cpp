@@ -73,7 +73,6 @@ TEST(Hilfetexte, TitelUndThemenknoepfe) {
     EXPECT_EQ(hilfen.hifeF, "\n" + std::string(allgInfoH));
     hilfen.viewDidAppear();
     EXPECT_EQ(hilfen.titel, "Tabulon Info und Erläuterungen");
-    EXPECT_FALSE(hilfen.hilfeAktion("gibtEsNicht"));
 }
 
 TEST(Hilfetexte, WoertlichVorgegebeneTexte) {

@@ -1,5 +1,5 @@
-// bildschirmfoto <main.png> [<help.png>]: shows the main window with a small matrix and a
-// message, and saves what it looks like.
+// bildschirmfoto <main.png> <help.png>: shows the main window with a random matrix just
+// listed, and saves what it looks like.
 
 #include "app/appdelegate.h"
 #include "qt/hauptfenster.h"
@@ -12,7 +12,7 @@
 
 int main(int argc, char** argv) {
     QApplication programm(argc, argv);
-    if (argc < 2) {
+    if (argc < 3) {
         return 2;
     }
     tabulon::QtPlattform plattform;
@@ -22,27 +22,18 @@ int main(int argc, char** argv) {
     fenster.resize(1280, 800);
     fenster.show();
 
-    vc.zelle(0, 0).text = "1";
-    vc.zelle(0, 1).text = "2";
-    vc.zelle(1, 0).text = "3";
-    vc.zelle(1, 1).text = "4";
-    vc.eingabeFb = "a";
-    fenster.fensterAktion("einlistB");
     vc.zeileF = "6";
     vc.spalteF = "7";
     fenster.fensterAktion("genZufallsMatrixB");
+    fenster.fensterAktion("freierMatrixNameB");
 
     QTimer::singleShot(300, &fenster, [&] {
         fenster.grab().save(QString::fromLocal8Bit(argv[1]));
-        if (argc > 2) {
-            fenster.hilfeOeffnen();
-            QTimer::singleShot(300, &fenster, [&] {
-                fenster.hilfefenster()->grab().save(QString::fromLocal8Bit(argv[2]));
-                QApplication::quit();
-            });
-        } else {
+        fenster.hilfeOeffnen();
+        QTimer::singleShot(300, &fenster, [&] {
+            fenster.hilfefenster()->grab().save(QString::fromLocal8Bit(argv[2]));
             QApplication::quit();
-        }
+        });
     });
     return QApplication::exec();
 }

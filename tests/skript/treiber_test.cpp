@@ -18,27 +18,19 @@
 namespace tabulon::skript {
 namespace {
 
-TEST(Zufall, RepeatsForASeedAndStaysBelowTheBound) {
-    // The first outputs of mt19937 with seed 1, reduced to 0 ... 17: the same on every library.
-    Zufall z(1);
-    for (const std::uint32_t erwartet : {13u, 5u, 0u, 14u, 7u, 1u}) {
-        EXPECT_EQ(z.unter(18), erwartet);
-    }
-    Zufall gross(7);
+// The draws for one seed are pinned by the transcripts; here the bounds that force redraws.
+TEST(Zufall, StaysBelowTheBound) {
+    Zufall z(7);
     const std::uint32_t grenze = 0x80000001u; // almost half of all outputs are drawn again
     for (int i = 0; i < 1000; ++i) {
-        EXPECT_LT(gross.unter(grenze), grenze);
-        EXPECT_EQ(gross.unter(1), 0u);
-        EXPECT_EQ(gross.unter(0), 0u);
+        EXPECT_LT(z.unter(grenze), grenze);
+        EXPECT_EQ(z.unter(1), 0u);
+        EXPECT_EQ(z.unter(0), 0u);
     }
 }
 
+// Changes the environment for good; no other test of this program reads it.
 TEST(Dokumente, FollowsXdgThenHome) {
-    const char* altXdg = std::getenv("XDG_DOCUMENTS_DIR");
-    const char* altHome = std::getenv("HOME");
-    const std::string xdg = altXdg ? altXdg : "";
-    const std::string home = altHome ? altHome : "";
-
     setenv("XDG_DOCUMENTS_DIR", "/x/Dokumente", 1);
     setenv("HOME", "/h", 1);
     EXPECT_EQ(standardDokumentenOrdner(), std::filesystem::path("/x/Dokumente"));
@@ -47,9 +39,6 @@ TEST(Dokumente, FollowsXdgThenHome) {
     unsetenv("XDG_DOCUMENTS_DIR");
     unsetenv("HOME");
     EXPECT_EQ(standardDokumentenOrdner(), std::nullopt);
-
-    altXdg ? setenv("XDG_DOCUMENTS_DIR", xdg.c_str(), 1) : unsetenv("XDG_DOCUMENTS_DIR");
-    altHome ? setenv("HOME", home.c_str(), 1) : unsetenv("HOME");
 }
 
 // Runs the script without a documents folder and returns (exit status, output, error output).
@@ -73,10 +62,7 @@ TEST(Treiber, StopsAtTheFirstUnknownNameAndNamesTheLine) {
          "Zeile 2: erwartet: regler N mit einer ganzen Zahl N von 1 bis 10"},
         {"zeige eingabeFb\n\n# x\nfeld mListeF \"A\"\n",
          "Zeile 4: unbekanntes Eingabefeld \"mListeF\""},
-        {"zeige eingabeFb\nfeld eingabefb \"A\"\n",
-         "Zeile 2: unbekanntes Eingabefeld \"eingabefb\""},
         {"zeige eingabeFb\nknopf dezimalSlider\n", "Zeile 2: unbekannter Knopf \"dezimalSlider\""},
-        {"zeige eingabeFb\nknopf termAuswerten\n", "Zeile 2: unbekannter Knopf \"termAuswerten\""},
         {"zeige eingabeFb\nmenue einlistB\n", "Zeile 2: unbekannte Menüaktion \"einlistB\""},
         {"zeige eingabeFb\nzeige nichts\n", "Zeile 2: unbekannte Anzeige \"nichts\""},
     };
