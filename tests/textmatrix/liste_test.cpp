@@ -1,5 +1,4 @@
 #include "textmatrix/liste.h"
-#include "textmatrix/smatrix_drucken.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -26,37 +25,32 @@ protected:
     }
 };
 
-TEST_F(Liste, EinlistenMeldungen) {
+// The messages themselves are pinned by the list transcripts; here: what the list holds after
+// each answer.
+TEST_F(Liste, EinlistenAendertDieListeNurBeiErfolg) {
     SMatrix leer(3, 3);
     leer(1, 1) = "        ";
     listenZustand().ueberschreiben = true;
-    EXPECT_EQ(leer.einlistenAls("A"), Antwort("Es ist keine Matrix vorhanden - nur Leere", false));
+    EXPECT_FALSE(leer.einlistenAls("A").second);
     EXPECT_TRUE(listenZustand().sMatrixListe.empty());
     listenZustand().ueberschreiben = false;
 
-    EXPECT_EQ(
-        eins("1").einlistenAls("B"),
-        Antwort("Die Tableau-Matrix wurde unter dem Namen B in die Liste eingetragen.", true));
+    ASSERT_TRUE(eins("1").einlistenAls("B").second);
     EXPECT_EQ(eins("2").einlistenAls("B"),
               Antwort("Der Name 'B' ist als Matrixname nicht mehr verfügbar.", false));
     EXPECT_EQ(listenZustand().sMatrixListe.at("B"), eins("1"));
-
     listenZustand().ueberschreiben = true;
-    EXPECT_EQ(eins("2").einlistenAls("B"),
-              Antwort("Die alte Matrix B wurde überschrieben.\n"
-                      "Die Tableau-Matrix wurde unter dem Namen B in die Liste eingetragen.",
-                      true));
+    EXPECT_TRUE(eins("2").einlistenAls("B").second);
     EXPECT_EQ(listenZustand().sMatrixListe.at("B"), eins("2"));
-}
 
-TEST_F(Liste, EinlistenEntferntLeereZeilenVorDemAuffuellen) {
+    // Empty rows go before the gaps are filled: the middle row disappears, the gap in the last
+    // row becomes "0.0", nine blanks are no gap.
     SMatrix m(3, 3);
     m.grid = {"1", "2", "         ", "", "", " ", "3", "   ", "9"};
     ASSERT_TRUE(m.einlistenAls("C").second);
     SMatrix erwartet(2, 3);
     erwartet.grid = {"1", "2", "         ", "3", "0.0", "9"};
     EXPECT_EQ(listenZustand().sMatrixListe.at("C"), erwartet);
-    EXPECT_EQ(listenZustand().smNamen.count("C"), 0u);
     EXPECT_EQ(naechsterFreierName(), "A");
 }
 
@@ -64,20 +58,16 @@ TEST_F(Liste, AuslistenUndFreieNamen) {
     EXPECT_EQ(auslisten("Q"), Antwort("Es gibt in der Liste keine Matrix namens 'Q'  .", false));
     fuelle(2);
     EXPECT_EQ(naechsterFreierName(), "C");
-    EXPECT_FALSE(SMatrix::freierMatrixname("A"));
     EXPECT_EQ(auslisten("A"), Antwort("ok", true));
     EXPECT_TRUE(SMatrix::freierMatrixname("A"));
     EXPECT_EQ(naechsterFreierName(), "A");
-    EXPECT_FALSE(istMatrixName("A"));
     for (const char* name : {"?", "a", "AB", ""}) {
         EXPECT_FALSE(SMatrix::freierMatrixname(name)) << name;
     }
-
     listenZustandZuruecksetzen();
     fuelle(26);
     EXPECT_EQ(naechsterFreierName(), "?");
     EXPECT_FALSE(eins("1").einlistenAls("?").second);
-    EXPECT_EQ(listenZustand().sMatrixListe.size(), 26u);
 }
 
 TEST_F(Liste, AktuelleListeInEinerZweiUndDreiSpalten) {
@@ -85,7 +75,6 @@ TEST_F(Liste, AktuelleListeInEinerZweiUndDreiSpalten) {
         ASSERT_TRUE(eins("1").einlistenAls(name).second);
     }
     EXPECT_EQ(aktuelleListe(), "A\nC\nZ\n");
-
     const struct {
         int anzahl;
         const char* text;
