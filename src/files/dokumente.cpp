@@ -3,6 +3,7 @@
 
 #include "files/dokumente.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cstring>
@@ -77,20 +78,10 @@ bool sichererDateiname(std::string_view name) {
     if (name.empty() || name.find("..") != std::string_view::npos) {
         return false;
     }
-    for (std::size_t i = 0; i < name.size(); ++i) {
-        const auto c = static_cast<unsigned char>(name[i]);
-        if (c == '/' || c == '\\' || c < 0x20 || c == 0x7F) {
-            return false;
-        }
-        // The C1 control characters U+0080 ... U+009F in UTF-8.
-        if (c == 0xC2 && i + 1 < name.size()) {
-            const auto d = static_cast<unsigned char>(name[i + 1]);
-            if (d >= 0x80 && d <= 0x9F) {
-                return false;
-            }
-        }
-    }
-    return true;
+    return std::none_of(name.begin(), name.end(), [](char zeichen) {
+        const auto c = static_cast<unsigned char>(zeichen);
+        return c == '/' || c == '\\' || c < 0x20 || c == 0x7F;
+    });
 }
 
 std::string dateiUrl(const std::filesystem::path& pfad) {

@@ -15,7 +15,7 @@
 namespace tabulon {
 
 // True when "Matrix_" + name + ".txt" names a file directly inside the documents folder: the
-// name is not empty and holds no "/", no "\", no ".." and no control character.
+// name is not empty and holds no "/", no "\", no ".." and no ASCII control character.
 bool sichererDateiname(std::string_view name);
 
 // Writes s as "Matrix_" + name + ".txt" into the folder, replacing an earlier file of that name.

@@ -37,21 +37,6 @@ std::string ohneLeerzeichen(std::string text) {
     return text;
 }
 
-// A field survives writing and reading when it holds no "%" and its characters do not merge
-// with the "%" around it (a field beginning with a combining mark would glue onto the "%"
-// before it, which then no longer ends a field).
-bool feldSpeicherbar(const std::string& feld) {
-    if (feld.find('%') != std::string::npos) {
-        return false;
-    }
-    const Zeichenfeld zeichen = string2ZeichenFeldL(trenner + feld + trenner);
-    if (zeichen.size() < 2 || zeichen.front() != trenner || zeichen.back() != trenner) {
-        return false;
-    }
-    return std::none_of(zeichen.begin() + 1, zeichen.end() - 1,
-                        [](const std::string& z) { return z.find('%') != std::string::npos; });
-}
-
 std::string abgelehnt(const std::string& grund) {
     return "Die Datei 'Matrix_" + listenDateiName + ".txt' wurde nicht geladen: " + grund +
            " Die Liste ist unverändert.";
@@ -102,14 +87,11 @@ std::optional<std::string> speicherHindernis() {
                                     " kann nicht gespeichert werden: ein Eintrag enthält das "
                                     "Zeichen '%', das in der Datei die Felder trennt.");
         }
-        if (!std::all_of(grid.begin(), grid.end(), feldSpeicherbar)) {
-            return nichtGespeichert("Die Matrix " + x +
-                                    " kann nicht gespeichert werden: ein Eintrag beginnt mit "
-                                    "einem Zeichen, das sich mit dem Trennzeichen '%' verbindet.");
-        }
     }
-    // Whatever the checks above miss: the file must read back as the list it came from, up to
-    // the blanks, which the format drops by design.
+    // The reader splits the text into user-perceived characters, so an entry beginning with a
+    // combining mark would glue onto the "%" before it. Rather than list every such case, the
+    // text is read back here: it must give the list it came from, up to the blanks, which the
+    // format drops by design.
     const ListenInhalt zurueck =
         stringfeldPruefen(zeichenFeld2Stringfeld(string2ZeichenFeldL(alleMatrizenCodieren())));
     std::map<std::string, SMatrix> erwartet;

@@ -59,18 +59,16 @@ const std::string zeilen = "Die Zeilenzahl der Matrix A ist keine ganze Zahl von
 INSTANTIATE_TEST_SUITE_P(
     Listendatei, KaputteDatei,
     ::testing::Values(
-        Kaputt{"", ohneEnd}, Kaputt{"end", ohneEnd}, Kaputt{"A%1%1%5%", ohneEnd},
+        Kaputt{"end", ohneEnd}, Kaputt{"A%1%1%5%", ohneEnd},
         Kaputt{"A%2%2%1%2%3%end%", ohneEnd}, // "end" taken as the last entry
         Kaputt{"A%x%1%5%end%", zeilen}, Kaputt{"A%0%1%end%", zeilen},
-        Kaputt{"A%9%1%1%2%3%4%5%6%7%8%9%end%", zeilen}, Kaputt{"A%-1%1%5%end%", zeilen},
-        Kaputt{"A%%1%5%end%", zeilen},
-        Kaputt{"A%1%1.0%5%end%", "Die Spaltenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
+        Kaputt{"A%9%1%1%2%3%4%5%6%7%8%9%end%", zeilen}, Kaputt{"A%%1%5%end%", zeilen},
         Kaputt{"A%1%99999999999999999999%5%end%",
                "Die Spaltenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
         Kaputt{"E%1%1%5%A%2%2%1%2%3%", "Der Matrix A fehlen Einträge."},
         Kaputt{"E%1%1%5%A%2%", "Die Matrix A ist unvollständig."}, Kaputt{"%1%1%5%end%", name},
-        Kaputt{"../x%1%1%5%end%", name}, Kaputt{"a\tb%1%1%5%end%", name},
-        Kaputt{"?%1%1%5%end%", name}, Kaputt{"Fehler%1%1%5%end%", name},
+        Kaputt{"../x%1%1%5%end%", name}, Kaputt{"?%1%1%5%end%", name},
+        Kaputt{"Fehler%1%1%5%end%", name},
         Kaputt{std::string(groessteListendatei - 3, ' ') + "end%xyzw",
                "Sie ist zu groß für eine Matrixliste."},
         // The damage comes after a good record: the good one must not be entered either.
@@ -80,17 +78,15 @@ TEST_F(ListendateiTest, SchreibenVerweigertWasNichtZurueckkaeme) {
     liste("A", {{"1"}});
     liste("K", {{"1", "5%"}});
     liste("M", {{"\xcc\x81"}}); // a lone combining accent would merge with the "%" before it
-    ASSERT_TRUE(speicherHindernis().has_value());
-    EXPECT_EQ(*speicherHindernis(),
+    EXPECT_EQ(speicherHindernis(),
               "Die Matrix K kann nicht gespeichert werden: ein Eintrag enthält das Zeichen '%', "
               "das in der Datei die Felder trennt. Die Datei 'Matrix_MatDats.txt' wurde nicht "
               "verändert.");
     listenZustand().sMatrixListe.erase("K");
-    ASSERT_TRUE(speicherHindernis().has_value());
-    EXPECT_NE(speicherHindernis()->find("Die Matrix M kann nicht gespeichert werden"),
-              std::string::npos);
+    EXPECT_EQ(speicherHindernis(), "Die Liste lässt sich nicht so speichern, dass sie unverändert "
+                                   "wieder geladen werden kann. Die Datei 'Matrix_MatDats.txt' "
+                                   "wurde nicht verändert.");
     // Inside an entry the accent is harmless, and blanks are simply dropped on reading.
-    listenZustand().sMatrixListe["M"] = listenZustand().sMatrixListe["A"];
     listenZustand().sMatrixListe["M"].grid[0] = "e\xcc\x81 1 2";
     EXPECT_EQ(speicherHindernis(), std::nullopt);
     const std::string text = alleMatrizenCodieren();
