@@ -16,9 +16,10 @@ int main(int argc, char** argv) {
     tabulon::QtPlattform plattform;
     tabulon::ViewController vc(plattform);
     tabulon::AppDelegate delegate;
-    delegate.applicationDidFinishLaunching();
-
+    // The start-up order of the desktop platform: the delegate exists with mainVC empty, the main
+    // window loads and registers itself, then launching has finished.
     tabulon::Hauptfenster fenster(vc, delegate, plattform);
+    delegate.applicationDidFinishLaunching();
     fenster.show();
     const int status = QApplication::exec();
     delegate.applicationWillTerminate();
