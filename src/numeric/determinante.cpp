@@ -11,6 +11,8 @@
 
 #include "numeric/matrix.h"
 
+#include <algorithm>
+#include <array>
 #include <bit>
 #include <cmath>
 #include <limits>
@@ -26,24 +28,37 @@ constexpr std::int64_t tabellenGrenze = 20;
 
 class Entwicklung {
 public:
-    // The expansion of the rows of `m` other than `ohneZeile` (-1: all rows) over its first
-    // `breite` columns.
-    Entwicklung(const Matrix& m, std::int64_t ohneZeile, std::int64_t breite) : m(m) {
-        for (std::int64_t i = 0; i < m.rows; ++i) {
-            if (i != ohneZeile) {
-                zeilen.push_back(i);
-            }
+    // The expansion of `m` over its first `breite` columns; the table is sized once and serves
+    // every choice of left-out row.
+    Entwicklung(const Matrix& m, std::int64_t breite)
+        : eintraege(m.grid.data()), spaltenzahl(m.columns), zeilenzahl(m.rows),
+          groesse(std::size_t{1} << static_cast<unsigned>(breite)) {
+        // The tableau's sizes fit the table kept on the stack; larger ones take the heap.
+        if (groesse > klein) {
+            grossWert.resize(groesse);
+            grossBekannt.resize(groesse);
+            wert = grossWert.data();
+            bekannt = grossBekannt.data();
         }
-        const std::size_t groesse = std::size_t{1} << static_cast<unsigned>(breite);
-        wert.assign(groesse, 0.0);
-        bekannt.assign(groesse, 0);
+        ohneZeile(-1);
     }
 
-    // The determinant of the lowest `anzahl` rows on the columns of the set `spalten`.
-    double det(std::uint32_t spalten, std::size_t anzahl) {
-        const std::int64_t zeile = zeilen[zeilen.size() - anzahl];
+    // Starts over for the rows other than `weg` (-1: all rows).
+    void ohneZeile(std::int64_t weg) {
+        // Minors of k rows expand along the k-th last row that remains.
+        std::int64_t zeile = zeilenzahl;
+        for (std::int64_t k = 1; k <= zeilenzahl - (weg >= 0 ? 1 : 0); ++k) {
+            zeile -= zeile - 1 == weg ? 2 : 1;
+            reihen[static_cast<std::size_t>(k)] = eintraege + zeile * spaltenzahl;
+        }
+        std::fill(bekannt, bekannt + groesse, char{0});
+    }
+
+    // The determinant of the lowest `anzahl` remaining rows on the columns of the set `spalten`.
+    double det(std::uint32_t spalten, std::int64_t anzahl) {
+        const double* reihe = reihen[static_cast<std::size_t>(anzahl)];
         if (anzahl == 1) {
-            return m(zeile, std::countr_zero(spalten));
+            return reihe[std::countr_zero(spalten)];
         }
         if (bekannt[spalten] != 0) {
             return wert[spalten];
@@ -53,7 +68,7 @@ public:
         for (std::uint32_t rest = spalten; rest != 0; rest &= rest - 1, ++j) {
             const int spalte = std::countr_zero(rest);
             const std::uint32_t ohne = spalten & ~(std::uint32_t{1} << spalte);
-            summe += (m(zeile, spalte) * det(ohne, anzahl - 1)) * vorz(j);
+            summe += (reihe[spalte] * det(ohne, anzahl - 1)) * vorz(j);
         }
         bekannt[spalten] = 1;
         wert[spalten] = summe;
@@ -61,10 +76,18 @@ public:
     }
 
 private:
-    const Matrix& m;
-    std::vector<std::int64_t> zeilen;
-    std::vector<double> wert;
-    std::vector<char> bekannt;
+    const double* eintraege;
+    std::int64_t spaltenzahl;
+    std::int64_t zeilenzahl;
+    std::array<const double*, 33> reihen{};
+    static constexpr std::size_t klein = 256;
+    std::size_t groesse;
+    std::array<double, klein> kleinWert;
+    std::array<char, klein> kleinBekannt;
+    std::vector<double> grossWert;
+    std::vector<char> grossBekannt;
+    double* wert = kleinWert.data();
+    char* bekannt = kleinBekannt.data();
 };
 
 std::uint32_t ersteSpalten(std::int64_t n) {
@@ -107,7 +130,7 @@ double Matrix::det() const {
         return std::numeric_limits<double>::quiet_NaN();
     }
     // Only the first `rows` columns take part, as in an expansion by adiunkte().
-    return Entwicklung(*this, -1, rows).det(ersteSpalten(rows), static_cast<std::size_t>(rows));
+    return Entwicklung(*this, rows).det(ersteSpalten(rows), rows);
 }
 
 bool Matrix::istRegulaer() const {
@@ -115,11 +138,12 @@ bool Matrix::istRegulaer() const {
 }
 
 Matrix Matrix::invers() const {
-    if (!istRegulaer() || rows > tabellenGrenze) {
+    // The regularity test of istRegulaer(), with the determinant kept for the division.
+    const double d = istQuadratisch() && rows <= tabellenGrenze ? det() : 0.0;
+    if (istNull(d)) {
         return Matrix(1, 1);
     }
     const std::int64_t n = rows;
-    const double d = det();
     Matrix c(n, n);
     if (n == 1) {
         // The cofactor of the single entry is the determinant of no rows, the empty product.
@@ -128,12 +152,13 @@ Matrix Matrix::invers() const {
     }
     // Cofactor (i, j) is the determinant of subMatrix(i, j): the rows other than i on the
     // columns other than j, expanded along its first row like any determinant.
+    Entwicklung entwicklung(*this, n);
     for (std::int64_t i = 0; i < n; ++i) {
-        Entwicklung ohneZeileI(*this, i, n);
+        entwicklung.ohneZeile(i);
         for (std::int64_t j = 0; j < n; ++j) {
             const double zeichen = 1.0 - 2.0 * static_cast<double>((i + j) % 2);
             const std::uint32_t spalten = ersteSpalten(n) & ~(std::uint32_t{1} << j);
-            c(i, j) = (zeichen * ohneZeileI.det(spalten, static_cast<std::size_t>(n - 1))) / d;
+            c(i, j) = (zeichen * entwicklung.det(spalten, n - 1)) / d;
         }
     }
     return c.transponiert();
