@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <deque>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -23,19 +22,12 @@ namespace tabulon {
 class DateiPlattform : public Plattform {
 public:
     std::optional<std::filesystem::path> ordner;
-    std::vector<std::string> fragen;
-    std::deque<int> antworten; // empty: the second button
+    int antwort = zweiterKnopf; // the button pressed at every question
     int piepse = 0;
 
     void piep() override { ++piepse; }
-    int frage(const std::string& nachricht, const std::string&, const std::string&) override {
-        fragen.push_back(nachricht);
-        if (antworten.empty()) {
-            return zweiterKnopf;
-        }
-        const int a = antworten.front();
-        antworten.pop_front();
-        return a;
+    int frage(const std::string&, const std::string&, const std::string&) override {
+        return antwort;
     }
     std::uint32_t zufallUnter(std::uint32_t) override { return 0; }
     void beenden(int) override {}
@@ -57,21 +49,18 @@ protected:
         std::filesystem::remove_all(ordner, fehler);
     }
 
-    static void liste(const std::string& name, const std::vector<std::vector<std::string>>& z) {
-        SMatrix m(static_cast<std::int64_t>(z.size()), static_cast<std::int64_t>(z[0].size()));
-        for (std::size_t i = 0; i < z.size(); ++i) {
-            for (std::size_t j = 0; j < z[i].size(); ++j) {
-                m(static_cast<std::int64_t>(i), static_cast<std::int64_t>(j)) = z[i][j];
-            }
-        }
+    // A matrix of the given rows, its entries row by row.
+    static void liste(const std::string& name, std::int64_t zeilen, std::vector<std::string> e) {
+        SMatrix m(zeilen, static_cast<std::int64_t>(e.size()) / zeilen);
+        m.grid = std::move(e);
         listenZustand().sMatrixListe[name] = m;
         listenZustand().smNamen.erase(name);
     }
 
     // The list worked through in the documentation: A = 1, 2 / 3, 4 and C = -0.5, 1e3, 0.0.
     static void beispielListe() {
-        liste("A", {{"1", "2"}, {"3", "4"}});
-        liste("C", {{"-0.5", "1e3", "0.0"}});
+        liste("A", 2, {"1", "2", "3", "4"});
+        liste("C", 1, {"-0.5", "1e3", "0.0"});
     }
 
     std::string inhalt(const std::string& datei) const {
