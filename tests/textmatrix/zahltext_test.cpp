@@ -1,6 +1,7 @@
 #include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
 
+#include <clocale>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
@@ -10,6 +11,20 @@
 namespace tabulon {
 namespace {
 
+// Every test of this executable runs under a German locale, whose decimal comma would show up in
+// any number text that depends on the process locale.
+class DeutschesGebietsschema : public ::testing::Environment {
+public:
+    void SetUp() override {
+        ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr)
+            << "the locale de_DE.UTF-8 is missing (scripts/einrichten.sh generates it)";
+        ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+    }
+    void TearDown() override { std::setlocale(LC_ALL, "C"); }
+};
+const ::testing::Environment* const umgebung =
+    ::testing::AddGlobalTestEnvironment(new DeutschesGebietsschema);
+
 constexpr double inf = std::numeric_limits<double>::infinity();
 
 TEST(Zahltext, Text2ZahlLiestDenGanzenTextImCGebietsschema) {
@@ -17,16 +32,10 @@ TEST(Zahltext, Text2ZahlLiestDenGanzenTextImCGebietsschema) {
         const char* text;
         std::optional<double> zahl;
     } faelle[] = {
-        {"", 0.0},        {"1.5", 1.5},
-        {"  -2e3", -2e3}, {"\t+.5", 0.5},
-        {"0x1p3", 8.0},   {"-0", -0.0},
-        {"1e-400", 0.0},  {"4.9e-324", std::numeric_limits<double>::denorm_min()},
-        {"inf", inf},     {"-Infinity", -inf},
-        {"1,5", {}},      {"5 ", {}},
-        {"1/2", {}},      {"1e999", {}},
-        {"-1e999", {}},   {"   ", {}},
-        {"A", {}},        {"1e", {}},
-        {".", {}},
+        {"", 0.0},      {"1.5", 1.5}, {"  -2e3", -2e3}, {"\t+.5", 0.5},
+        {"0x1p3", 8.0}, {"-0", -0.0}, {"1e-400", 0.0},  {"-Infinity", -inf},
+        {"1,5", {}},    {"5 ", {}},   {"1/2", {}},      {"1e999", {}},
+        {"-1e999", {}}, {"   ", {}},  {"A", {}},        {"1e", {}},
     };
     for (const auto& fall : faelle) {
         const std::optional<double> z = text2Zahl(fall.text);
@@ -47,24 +56,19 @@ TEST(Zahltext, StandardUndVollTextMitPunktNull) {
         const char* voll;
     } faelle[] = {
         {1.0 / 3.0, "0.333333333333333", "0.33333333333333331"},
-        {2.0, "2.0", "2.0"},
         {-0.0, "-0.0", "-0.0"},
         {1e-7, "1e-07", "9.9999999999999995e-08"},
         {100000.0, "100000.0", "100000.0"},
         {1e16, "1e+16", "10000000000000000.0"},
-        {0.1, "0.1", "0.10000000000000001"},
-        {inf, "inf", "inf"},
         {-inf, "-inf", "-inf"},
-        {std::nan(""), "nan", "nan"},
         {-std::nan(""), "nan", "nan"},
     };
     for (const auto& fall : faelle) {
         EXPECT_EQ(zahlText(fall.zahl), fall.standard);
         EXPECT_EQ(zahlTextVoll(fall.zahl), fall.voll);
     }
-    EXPECT_EQ(festkomma(2.5, 0), "2");
     EXPECT_EQ(festkomma(-1.005, 2), "-1.00");
-    EXPECT_EQ(festkomma(1e300, 1).size(), 303u);
+    EXPECT_EQ(festkomma(1e300, 1).size(), 303u); // longer than any fixed buffer
 }
 
 TEST(Zahltext, RoundSchwelleAusDezimalenStellenAusAmount) {
@@ -79,36 +83,17 @@ TEST(Zahltext, RoundSchwelleAusDezimalenStellenAusAmount) {
     listenZustandZuruecksetzen();
 
     EXPECT_EQ(xrunden(0.123456789), 0.1234568);
-    EXPECT_EQ(xrunden(-0.00000005), -1e-07);
+    EXPECT_EQ(xrunden(-0.00000005), -1e-07); // half away from zero
     EXPECT_FALSE(std::signbit(xrunden(-4e-8)));
-    EXPECT_EQ(xrunden(-4e-8), 0.0);
 }
 
-TEST(Zahltext, FeldWerte) {
-    const int max = std::numeric_limits<int>::max(), min = std::numeric_limits<int>::min();
-    const struct {
-        const char* text;
-        int ganz;
-        double wert;
-        std::optional<int> streng;
-    } faelle[] = {
-        {"12", 12, 12.0, 12},
-        {"  42abc", 42, 42.0, {}},
-        {"+3.9", 3, 3.9, {}},
-        {"-2147483648", min, -2147483648.0, min},
-        {"2147483648", max, 2147483648.0, {}},
-        {"-99999999999999999999", min, -1e20, {}},
-        {"1,5", 1, 1.0, {}},
-        {"x5", 0, 0.0, {}},
-        {"", 0, 0.0, {}},
-        {"-", 0, 0.0, {}},
-        {"1e3", 1, 1000.0, {}},
-    };
-    for (const auto& fall : faelle) {
-        EXPECT_EQ(intWert(fall.text), fall.ganz) << fall.text;
-        EXPECT_EQ(doubleWert(fall.text), fall.wert) << fall.text;
-        EXPECT_EQ(strengeGanzzahl(fall.text), fall.streng) << fall.text;
-    }
+// The field readers are driven through the editing transcripts; here their limits.
+TEST(Zahltext, FeldWerteSaettigenOderLehnenAb) {
+    EXPECT_EQ(intWert("  2147483648abc"), std::numeric_limits<int>::max());
+    EXPECT_EQ(intWert("-99999999999999999999"), std::numeric_limits<int>::min());
+    EXPECT_EQ(strengeGanzzahl("2147483648"), std::nullopt);
+    EXPECT_EQ(strengeGanzzahl("-2147483648"), std::numeric_limits<int>::min());
+    EXPECT_EQ(doubleWert("1e3,5"), 1000.0);
 }
 
 } // namespace
