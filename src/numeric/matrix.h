@@ -29,7 +29,7 @@ struct Matrix {
     Matrix(std::int64_t rows, std::int64_t columns); // zeros
 
     bool indexIsValid(std::int64_t row, std::int64_t column) const;
-    double& operator()(std::int64_t row, std::int64_t column);       // asserts "Index out of range"
+    double& operator()(std::int64_t row, std::int64_t column); // asserts "Index out of range"
     double operator()(std::int64_t row, std::int64_t column) const;
 
     bool istQuadratisch() const { return rows == columns; }

@@ -14,8 +14,8 @@
 namespace tabulon {
 
 struct TableauZustand {
-    int rowmax = 7;    // index of the last visible row
-    int columnmax = 7; // index of the last visible column
+    int rowmax = 7;                      // index of the last visible row
+    int columnmax = 7;                   // index of the last visible column
     std::array<bool, 80> fensterZustand; // hidden flag of cell (i, j) at i * 10 + j
     SMatrix strEinAusMatrix{8, 8};       // the in/out text matrix, always 8 x 8
     const SMatrix leerMatrix{8, 8};      // a blank tableau, never changed
