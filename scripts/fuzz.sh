@@ -58,7 +58,15 @@ cat >"$build/listendatei.dict" <<'WOERTER'
 "\x0d\x0a"
 WOERTER
 
+# libFuzzer's log is long (a progress line per new input, a dictionary at the end): keep it in a
+# file and show only its end, or the whole report when the run fails.
 cd "$build"
-./fuzz_listendatei -max_total_time="$sekunden" -timeout=10 -rss_limit_mb=2048 \
+if ./fuzz_listendatei -max_total_time="$sekunden" -timeout=10 -rss_limit_mb=2048 \
     -dict="$build/listendatei.dict" -artifact_prefix="$build/" -print_final_stats=1 \
-    "$build/korpus" "$saat"
+    "$build/korpus" "$saat" >"$build/fuzz.log" 2>&1; then
+    grep -E '^(Done|stat::)' "$build/fuzz.log" || tail -n 5 "$build/fuzz.log"
+else
+    status=$?
+    cat "$build/fuzz.log"
+    exit "$status"
+fi
