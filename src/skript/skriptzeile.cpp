@@ -220,6 +220,13 @@ Zeilenergebnis zerlegeZeile(std::string_view zeile) {
         b.art = Befehlsart::menue;
         return befehl(std::move(b));
     }
+    if (wort == "hilfe") {
+        if (!passt(w, {false})) {
+            return fehler("erwartet: hilfe NAME");
+        }
+        b.art = Befehlsart::hilfe;
+        return befehl(std::move(b));
+    }
     if (wort == "zeige") {
         if (!passt(w, {false})) {
             return fehler("erwartet: zeige WAS");

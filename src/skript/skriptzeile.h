@@ -11,11 +11,11 @@
 
 namespace tabulon::skript {
 
-enum class Befehlsart { feld, zelle, regler, haken, antwort, knopf, menue, zeige };
+enum class Befehlsart { feld, zelle, regler, haken, antwort, knopf, menue, zeige, hilfe };
 
 struct Befehl {
     Befehlsart art = Befehlsart::zeige;
-    std::string name; // the field, button, menu action or what to show
+    std::string name; // the field, button, menu action, help topic or what to show
     std::string text; // feld, zelle, antwort
     int zeile = 0;    // zelle: the row; regler: the slider value
     int spalte = 0;   // zelle: the column

@@ -1,5 +1,6 @@
 #include "skript/treiber.h"
 
+#include "app/tabulonhilfen.h"
 #include "skript/zitat.h"
 #include "textmatrix/liste.h"
 #include "window/ganzzahltext.h"
@@ -174,6 +175,18 @@ std::string Treiber::ausfuehren(const Befehl& befehl) {
             return "unbekannte Anzeige " + zitiert(befehl.name);
         }
         break;
+    case Befehlsart::hilfe: {
+        // A help window opened afresh for each topic, as the desktop window makes a new one on
+        // every opening; the topic then replaces the general information it shows first.
+        TabulonHilfen hilfen;
+        hilfen.viewDidLoad();
+        hilfen.viewDidAppear();
+        if (!hilfen.hilfeAktion(befehl.name)) {
+            return "unbekanntes Hilfethema " + zitiert(befehl.name);
+        }
+        plattform.zeile("hifeF " + zitiert(hilfen.hifeF));
+        break;
+    }
     }
     return {};
 }
