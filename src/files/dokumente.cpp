@@ -2,10 +2,10 @@
 // descriptor to flush and a rename, and the failure message needs errno.
 
 #include "files/dokumente.h"
+#include "textmatrix/zahltext.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <charconv>
 #include <cstring>
 #include <fcntl.h>
 #include <locale.h>
@@ -23,7 +23,7 @@ std::string fehlerText(int nummer) {
     if (cLocale != static_cast<locale_t>(nullptr)) {
         return strerror_l(nummer, cLocale);
     }
-    return "Error " + ganzzahlText(nummer);
+    return "Error " + ganzText(nummer);
 }
 
 std::string dateiName(const std::string& name) {
@@ -56,8 +56,8 @@ int temporaerAnlegen(const std::filesystem::path& ordner, const std::string& nam
                      std::filesystem::path& temp) {
     static unsigned zaehler = 0;
     for (int versuch = 0; versuch < 100; ++versuch) {
-        temp = ordner / ("." + dateiName(name) + "." + ganzzahlText(::getpid()) + "-" +
-                         ganzzahlText(zaehler++) + ".tmp");
+        temp = ordner / ("." + dateiName(name) + "." + ganzText(::getpid()) + "-" +
+                         ganzText(zaehler++) + ".tmp");
         const int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
         if (fd >= 0 || errno != EEXIST) {
             return fd;
@@ -67,12 +67,6 @@ int temporaerAnlegen(const std::filesystem::path& ordner, const std::string& nam
 }
 
 } // namespace
-
-std::string ganzzahlText(std::int64_t n) {
-    char puffer[24];
-    const auto ergebnis = std::to_chars(puffer, puffer + sizeof puffer, n);
-    return std::string(puffer, ergebnis.ptr);
-}
 
 bool sichererDateiname(std::string_view name) {
     if (name.empty() || name.find("..") != std::string_view::npos) {

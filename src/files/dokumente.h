@@ -35,9 +35,6 @@ std::pair<bool, std::string> lesen(const std::optional<std::filesystem::path>& o
 inline const std::string keineDateiMeldung =
     "Keine Datei mit gespeicherten Matrizen im Dokumenten-Ordner gefunden.";
 
-// An integer in plain decimal, the same in every locale.
-std::string ganzzahlText(std::int64_t n);
-
 // The file URL as the write-failure message shows it: "file://" followed by the absolute path,
 // every byte outside A-Z a-z 0-9 - . _ ~ / written as %XX.
 std::string dateiUrl(const std::filesystem::path& pfad);

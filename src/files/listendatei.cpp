@@ -2,6 +2,7 @@
 
 #include "files/dokumente.h"
 #include "textmatrix/liste.h"
+#include "textmatrix/zahltext.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -49,8 +50,7 @@ std::string nichtGespeichert(const std::string& grund) {
 } // namespace
 
 std::string m2String(const SMatrix& m, const std::string& name) {
-    std::string s =
-        name + trenner + ganzzahlText(m.rows) + trenner + ganzzahlText(m.columns) + trenner;
+    std::string s = name + trenner + ganzText(m.rows) + trenner + ganzText(m.columns) + trenner;
     for (std::int64_t i = 0; i < m.rows; ++i) {
         for (std::int64_t j = 0; j < m.columns; ++j) {
             s += m(i, j) + trenner;

@@ -2,7 +2,7 @@
 
 #include "skript/dokumente.h"
 #include "skript/zitat.h"
-#include "window/ganzzahltext.h"
+#include "textmatrix/zahltext.h"
 
 namespace tabulon::skript {
 

@@ -3,7 +3,7 @@
 #include "app/tabulonhilfen.h"
 #include "skript/zitat.h"
 #include "textmatrix/liste.h"
-#include "window/ganzzahltext.h"
+#include "textmatrix/zahltext.h"
 #include "window/tableau.h"
 
 #include <algorithm>

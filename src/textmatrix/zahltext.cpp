@@ -3,6 +3,7 @@
 #include "textmatrix/liste.h"
 
 #include <cerrno>
+#include <charconv>
 #include <climits>
 #include <cmath>
 #include <cstdio>
@@ -97,6 +98,12 @@ std::optional<double> text2Zahl(std::string_view text) {
 
 std::string zahlText(double x) {
     return mitPunktNull(x, "%.15g");
+}
+
+std::string ganzText(std::int64_t n) {
+    char puffer[24]; // holds every 64-bit integer
+    const auto ergebnis = std::to_chars(puffer, puffer + sizeof puffer, n);
+    return std::string(puffer, ergebnis.ptr);
 }
 
 std::string zahlTextVoll(double x) {

@@ -3,6 +3,7 @@
 // strtod does it in the C locale, and numbers become text as printf does it in the C locale,
 // whatever locale the user runs: a German locale would write a decimal comma, we never do.
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,6 +22,9 @@ std::string zahlText(double x);
 
 // The full-precision text: the same with 17 significant digits (0.1 -> "0.10000000000000001").
 std::string zahlTextVoll(double x);
+
+// An integer in plain decimal, the same in every locale.
+std::string ganzText(std::int64_t n);
 
 // printf("%.<amount>f") in the C locale, without the threshold of round(amount:).
 std::string festkomma(double x, int amount);

@@ -2,7 +2,7 @@
 // print one matrix, empty the list.
 
 #include "textmatrix/liste.h"
-#include "window/ganzzahltext.h"
+#include "textmatrix/zahltext.h"
 #include "window/tableau.h"
 #include "window/viewcontroller.h"
 

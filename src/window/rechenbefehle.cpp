@@ -6,7 +6,6 @@
 #include "numeric/vektor.h"
 #include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
-#include "window/ganzzahltext.h"
 #include "window/tableau.h"
 #include "window/viewcontroller.h"
 

@@ -4,7 +4,6 @@
 #include "numeric/matrix.h"
 #include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
-#include "window/ganzzahltext.h"
 #include "window/tableau.h"
 #include "window/viewcontroller.h"
 

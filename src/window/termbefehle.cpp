@@ -4,7 +4,6 @@
 #include "window/tableau.h"
 #include "window/viewcontroller.h"
 
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 
@@ -24,12 +23,6 @@ std::int64_t anzahlLaeufe(const std::string& feld) {
         return 0;
     }
     return static_cast<std::int64_t>(wert);
-}
-
-std::string dezimal(std::int64_t n) {
-    char puffer[24];
-    const auto ende = std::to_chars(puffer, puffer + sizeof puffer, n).ptr;
-    return std::string(puffer, ende);
 }
 
 } // namespace
@@ -107,7 +100,7 @@ void ViewController::parsNfachStart() {
     refreshMatrixView();
     fensterPutz();
     notiz("Das Ergebnis der Berechnung von " + name + " wird im Eingabe-Tableau angezeigt");
-    ausgabe("Die " + dezimal(liste.zaehler) + "-malige Auswertung des Terms " + term +
+    ausgabe("Die " + ganzText(liste.zaehler) + "-malige Auswertung des Terms " + term +
             " ergibt: " + name + " = \n\n" + m.string());
 }
 

@@ -5,7 +5,7 @@
 
 #include "terms/zeichen.h"
 #include "textmatrix/liste.h"
-#include "window/ganzzahltext.h"
+#include "textmatrix/zahltext.h"
 #include "window/tableau.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 // hands out fixed random numbers; and a fixture that starts every test from a fresh process state.
 
 #include "textmatrix/liste.h"
-#include "window/ganzzahltext.h"
+#include "textmatrix/zahltext.h"
 #include "window/tableau.h"
 #include "window/viewcontroller.h"
 
