@@ -2,6 +2,7 @@
 
 #include "skript/zitat.h"
 
+#include <string_view>
 #include <vector>
 
 namespace tabulon::skript {
@@ -206,33 +207,26 @@ Zeilenergebnis zerlegeZeile(std::string_view zeile) {
         b.name.clear();
         return befehl(std::move(b));
     }
-    if (wort == "knopf") {
-        if (!passt(w, {false})) {
-            return fehler("erwartet: knopf NAME");
+    // The commands that take one bare name; the driver checks the name against the window.
+    struct NamensBefehl {
+        std::string_view wort;
+        Befehlsart art;
+        std::string_view form;
+    };
+    static constexpr NamensBefehl namensBefehle[] = {
+        {"knopf", Befehlsart::knopf, "erwartet: knopf NAME"},
+        {"menue", Befehlsart::menue, "erwartet: menue NAME"},
+        {"hilfe", Befehlsart::hilfe, "erwartet: hilfe NAME"},
+        {"zeige", Befehlsart::zeige, "erwartet: zeige WAS"},
+    };
+    for (const auto& nb : namensBefehle) {
+        if (wort == nb.wort) {
+            if (!passt(w, {false})) {
+                return fehler(std::string(nb.form));
+            }
+            b.art = nb.art;
+            return befehl(std::move(b));
         }
-        b.art = Befehlsart::knopf;
-        return befehl(std::move(b));
-    }
-    if (wort == "menue") {
-        if (!passt(w, {false})) {
-            return fehler("erwartet: menue NAME");
-        }
-        b.art = Befehlsart::menue;
-        return befehl(std::move(b));
-    }
-    if (wort == "hilfe") {
-        if (!passt(w, {false})) {
-            return fehler("erwartet: hilfe NAME");
-        }
-        b.art = Befehlsart::hilfe;
-        return befehl(std::move(b));
-    }
-    if (wort == "zeige") {
-        if (!passt(w, {false})) {
-            return fehler("erwartet: zeige WAS");
-        }
-        b.art = Befehlsart::zeige;
-        return befehl(std::move(b));
     }
     return fehler("unbekannter Befehl " + zitiert(wort));
 }
