@@ -1,5 +1,6 @@
 #include "numeric/matrix.h"
 #include "numeric/vektor.h"
+#include "referenz/laplace.h"
 
 #include <gtest/gtest.h>
 #include <initializer_list>
@@ -80,31 +81,6 @@ TEST(Matrix, OperatorsTheirMarkersAndTexts) {
     EXPECT_EQ(mat({{2, 1e-7}}).smatrix().grid, (std::vector<std::string>{"2.0", "1e-07"}));
 }
 
-// The expansion written out plainly, with a copied minor for every term, and the cofactor
-// inverse built on it: det() and invers() share minors and must still agree to the last bit.
-double laplace(const Matrix& m) {
-    if (m.rows == 1) {
-        return m(0, 0);
-    }
-    double summe = 0.0;
-    for (std::int64_t j = 0; j < m.rows; ++j) {
-        summe += (m(0, j) * laplace(adiunkte(m, j))) * vorz(j);
-    }
-    return summe;
-}
-
-Matrix kofaktorInverse(const Matrix& m) {
-    const double d = laplace(m);
-    Matrix c(m.rows, m.rows);
-    for (std::int64_t i = 0; i < m.rows; ++i) {
-        for (std::int64_t j = 0; j < m.rows; ++j) {
-            const double minor = m.rows == 1 ? 1.0 : laplace(m.subMatrix(i, j));
-            c(i, j) = ((1.0 - 2.0 * static_cast<double>((i + j) % 2)) * minor) / d;
-        }
-    }
-    return c.transponiert();
-}
-
 TEST(Determinante, AgreesBitForBitWithThePlainExpansion) {
     std::uint64_t zustand = 12345;
     const auto zufall = [&zustand] {
@@ -118,8 +94,8 @@ TEST(Determinante, AgreesBitForBitWithThePlainExpansion) {
                 x = zufall();
             }
             // Equal doubles other than zeros are equal bit for bit.
-            EXPECT_EQ(m.det(), laplace(m)) << "order " << n;
-            EXPECT_EQ(m.invers(), kofaktorInverse(m)) << "order " << n;
+            EXPECT_EQ(m.det(), referenz::laplaceDet(m)) << "order " << n;
+            EXPECT_EQ(m.invers(), referenz::kofaktorInverse(m)) << "order " << n;
         }
     }
 }
