@@ -70,6 +70,10 @@ SMatrix operator*(const SMatrix& a, const SMatrix& b);
 SMatrix operator+(const SMatrix& a, const SMatrix& b);
 SMatrix operator-(const SMatrix& a, const SMatrix& b);
 
+// invers() together with det(), from one table of minors: both exactly as the two methods give
+// them.
+std::pair<Matrix, double> inversUndDet(const Matrix& m);
+
 Matrix adiunkte(const Matrix& quelle, std::int64_t spaltenNr);
 double vorz(std::int64_t n);
 

@@ -17,15 +17,15 @@ std::pair<Matrix, bool> hoch(const Matrix& mat, int n) {
     if (ok && n == -1) {
         // Exactly 0.0, not the zero test: a tiny determinant passes here, and invers() then
         // gives the 1 x 1 zero matrix, which is returned with success.
-        const double d = mat.det();
+        auto [inverse, d] = inversUndDet(mat);
         ok = d != 0.0;
         if (!ok) {
             termZustand().fehlerListe += regulaerFehler;
         } else {
-            ergebnis = mat.invers();
+            ergebnis = std::move(inverse);
         }
     }
-    return {ergebnis, ok};
+    return {std::move(ergebnis), ok};
 }
 
 } // namespace tabulon
