@@ -1,35 +1,40 @@
 #!/usr/bin/env bash
-# Measures how long the desktop program takes from its start until its main window is mapped on
-# a virtual X display, five times, and prints each time in milliseconds.
-#   scripts/startzeit.sh [BUILD_DIR]     (default: build; needs Xvfb and xwininfo)
+# Measures the desktop program's start: the time from starting the process until X maps the main
+# window (median of RUNS starts) and its resident memory (VmRSS) two seconds after that, on a
+# virtual X display; and the same for a bare Qt window with a table, in the same run, as the
+# yardstick of what Qt itself needs.
+#   scripts/startzeit.sh [BUILD_DIR [RUNS]]     (default: build, 9 runs)
+# Needs: Xvfb (Debian: xvfb) and the xcb headers (libxcb1-dev) for the helper
+# tabulon_fensterzeit; the build dir must have been configured with the Qt window. The script
+# builds tabulon and the two measuring programs in BUILD_DIR and installs nothing.
 set -euo pipefail
 wurzel=$(cd "$(dirname "$0")/.." && pwd)
 build=${1:-"$wurzel/build"}
-programm="$build/src/qt/tabulon"
+laeufe=${2:-9}
+
+command -v Xvfb >/dev/null || { echo "startzeit.sh: needs Xvfb (Debian package xvfb)" >&2; exit 1; }
+cmake --build "$build" --target tabulon tabulon_leeresfenster tabulon_fensterzeit >/dev/null || {
+    echo "startzeit.sh: could not build the programs; tabulon_fensterzeit needs libxcb1-dev" >&2
+    exit 1
+}
 
 anzeige=:$((90 + RANDOM % 100))
 Xvfb "$anzeige" -screen 0 1280x800x24 -nolisten tcp >/dev/null 2>&1 &
 xvfb=$!
-trap 'kill "$xvfb" 2>/dev/null || true' EXIT
+dokumente=$(mktemp -d)
+laufzeit=$(mktemp -d)
+trap 'kill "$xvfb" 2>/dev/null || true; rm -rf "$dokumente" "$laufzeit"' EXIT
 export DISPLAY=$anzeige
-for _ in $(seq 50); do xwininfo -root >/dev/null 2>&1 && break; sleep 0.1; done
+for _ in $(seq 100); do [ -e "/tmp/.X11-unix/X${anzeige#:}" ] && break; sleep 0.05; done
+export XDG_DOCUMENTS_DIR="$dokumente" XDG_RUNTIME_DIR="$laufzeit"
 
-for lauf in 1 2 3 4 5; do
-    dokumente=$(mktemp -d)
-    start=$(date +%s%N)
-    XDG_DOCUMENTS_DIR="$dokumente" "$programm" >/dev/null 2>&1 &
-    pid=$!
-    # The window counts as shown once X reports the window titled "Tabulon" as viewable.
-    until xwininfo -name Tabulon 2>/dev/null | grep -q IsViewable; do
-        if ! kill -0 "$pid" 2>/dev/null; then
-            echo "startzeit.sh: the program ended before its window appeared" >&2
-            exit 1
-        fi
-        sleep 0.005
-    done
-    ende=$(date +%s%N)
-    kill "$pid"
-    wait "$pid" 2>/dev/null || true
-    rm -rf "$dokumente"
-    echo "Lauf $lauf: $(((ende - start) / 1000000)) ms"
-done
+messen="$build/src/qt/messung/tabulon_fensterzeit"
+# One start of each before measuring, so that both find the shared libraries and the font cache
+# in the page cache alike.
+"$messen" -n 1 -w 0 "$build/src/qt/tabulon" >/dev/null
+"$messen" -n 1 -w 0 -t Leer "$build/src/qt/messung/tabulon_leeresfenster" >/dev/null
+
+echo "Tabulon ($build):"
+"$messen" -n "$laeufe" "$build/src/qt/tabulon"
+echo "Bare Qt window with a table:"
+"$messen" -n "$laeufe" -t Leer "$build/src/qt/messung/tabulon_leeresfenster"
