@@ -42,7 +42,7 @@ struct Lauf {
 xcb_atom_t atom(xcb_connection_t* x, const char* name) {
     auto cookie = xcb_intern_atom(x, 0, static_cast<std::uint16_t>(std::strlen(name)), name);
     xcb_intern_atom_reply_t* antwort = xcb_intern_atom_reply(x, cookie, nullptr);
-    const xcb_atom_t a = antwort ? antwort->atom : XCB_ATOM_NONE;
+    const xcb_atom_t a = antwort ? antwort->atom : xcb_atom_t{XCB_ATOM_NONE};
     std::free(antwort);
     return a;
 }
