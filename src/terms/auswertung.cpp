@@ -1,7 +1,9 @@
 #include "terms/parser.h"
 #include "textmatrix/liste.h"
 
+#include <iterator>
 #include <optional>
+#include <string_view>
 
 namespace tabulon {
 
@@ -29,13 +31,10 @@ const std::string& token(const Zeichenfeld& term, std::int64_t i) {
     return term[static_cast<std::size_t>(i)];
 }
 
-// Replaces the tokens von ... bis (both included) by `ersatz`.
-Zeichenfeld ersetzt(const Zeichenfeld& term, std::int64_t von, std::int64_t bis,
-                    const Zeichenfeld& ersatz) {
-    Zeichenfeld neu(term.begin(), term.begin() + von);
-    neu.insert(neu.end(), ersatz.begin(), ersatz.end());
-    neu.insert(neu.end(), term.begin() + bis + 1, term.end());
-    return neu;
+// Replaces the tokens von ... bis (both included) by `name`, in place.
+void ersetzen(Zeichenfeld& term, std::int64_t von, std::int64_t bis, std::string name) {
+    term[static_cast<std::size_t>(von)] = std::move(name);
+    term.erase(term.begin() + von + 1, term.begin() + bis + 1);
 }
 
 // Stores a computed value and gives back its temporary name, or nothing when no letter is free.
@@ -43,18 +42,20 @@ std::optional<std::string> ablegen(const std::pair<Matrix, bool>& wert) {
     if (!wert.second) {
         return std::nullopt;
     }
-    const auto [name, ok] = einbuchten(wert.first.smatrix());
+    auto [name, ok] = einbuchten(wert.first.smatrix());
     if (!ok) {
         return std::nullopt;
     }
-    return name;
+    return std::move(name);
 }
 
-// One step of the power stage at the "^" at index p: the reduced term, or nothing on failure.
-std::optional<Zeichenfeld> potenzSchritt(const Zeichenfeld& term, std::int64_t p) {
+// The steps of the stages reduce the term in place at the operator at index p and report
+// success. A failing step leaves the term as it was.
+
+bool potenzSchritt(Zeichenfeld& term, std::int64_t p) {
     const auto basis = operand(term, p - 1);
     if (!basis) {
-        return std::nullopt;
+        return false;
     }
     int n = 0;
     std::int64_t ende = p + 1;
@@ -62,26 +63,27 @@ std::optional<Zeichenfeld> potenzSchritt(const Zeichenfeld& term, std::int64_t p
     if (exponent == "m") {
         // Only "-1", the inverse, is a negative exponent.
         if (token(term, p + 2) != "1") {
-            return std::nullopt;
+            return false;
         }
         n = -1;
         ende = p + 2;
     } else if (exponent.size() == 1 && exponent[0] >= '1' && exponent[0] <= '9') {
         n = exponent[0] - '0';
     } else {
-        return std::nullopt;
+        return false;
     }
-    const auto name = ablegen(hoch(*basis, n));
+    auto name = ablegen(hoch(*basis, n));
     if (!name) {
-        return std::nullopt;
+        return false;
     }
-    return ersetzt(term, p - 1, ende, {*name});
+    ersetzen(term, p - 1, ende, std::move(*name));
+    return true;
 }
 
-std::optional<Zeichenfeld> malSchritt(const Zeichenfeld& term, std::int64_t p) {
+bool malSchritt(Zeichenfeld& term, std::int64_t p) {
     const auto rechts = operand(term, p + 1);
     if (!rechts) {
-        return std::nullopt;
+        return false;
     }
     std::optional<std::string> name;
     if (token(term, p - 1) == "r") {
@@ -89,55 +91,58 @@ std::optional<Zeichenfeld> malSchritt(const Zeichenfeld& term, std::int64_t p) {
     } else {
         const auto links = operand(term, p - 1);
         if (!links) {
-            return std::nullopt;
+            return false;
         }
         name = ablegen(matProdukt(*links, *rechts));
     }
     if (!name) {
-        return std::nullopt;
+        return false;
     }
-    return ersetzt(term, p - 1, p + 1, {*name});
+    ersetzen(term, p - 1, p + 1, std::move(*name));
+    return true;
 }
 
 // A difference becomes a sum: "m X" turns into "+ (-X)", so the sum stage does the adding.
-std::optional<Zeichenfeld> minusSchritt(const Zeichenfeld& term, std::int64_t p) {
+bool minusSchritt(Zeichenfeld& term, std::int64_t p) {
     const auto rechts = operand(term, p + 1);
     if (!rechts) {
-        return std::nullopt;
+        return false;
     }
-    const auto name = ablegen({rechts->gegenMatrix(), true});
+    auto name = ablegen({rechts->gegenMatrix(), true});
     if (!name) {
-        return std::nullopt;
+        return false;
     }
-    return ersetzt(term, p, p + 1, {"+", *name});
+    // "m" and "+" are both one byte: the token is overwritten in place.
+    term[static_cast<std::size_t>(p)][0] = '+';
+    term[static_cast<std::size_t>(p + 1)] = std::move(*name);
+    return true;
 }
 
-std::optional<Zeichenfeld> plusSchritt(const Zeichenfeld& term, std::int64_t p) {
+bool plusSchritt(Zeichenfeld& term, std::int64_t p) {
     const auto links = operand(term, p - 1);
     const auto rechts = links ? operand(term, p + 1) : std::nullopt;
     if (!rechts) {
-        return std::nullopt;
+        return false;
     }
-    const auto name = ablegen(matSumme(*links, *rechts));
+    auto name = ablegen(matSumme(*links, *rechts));
     if (!name) {
-        return std::nullopt;
+        return false;
     }
-    return ersetzt(term, p - 1, p + 1, {*name});
+    ersetzen(term, p - 1, p + 1, std::move(*name));
+    return true;
 }
 
 // The common scheme of the stages: while the operator occurs, reduce at its last occurrence;
 // the first failing step ends the stage.
-template <typename Schritt>
-StufenErgebnis stufe(Zeichenfeld term, bool ok, const std::string& op, Schritt schritt) {
+StufenErgebnis stufe(Zeichenfeld term, bool ok, std::string_view op,
+                     bool (*schritt)(Zeichenfeld&, std::int64_t)) {
     if (!ok) {
         return {std::move(term), false};
     }
     for (auto p = posVonZeichen(term, op); p >= 0; p = posVonZeichen(term, op)) {
-        auto neu = schritt(term, p);
-        if (!neu) {
+        if (!schritt(term, p)) {
             return {std::move(term), false};
         }
-        term = std::move(*neu);
     }
     return {std::move(term), true};
 }
@@ -175,21 +180,21 @@ std::pair<Matrix, bool> matSumme(const Matrix& m1, const Matrix& m2) {
     return {Matrix(1, 1), false};
 }
 
-NamenErgebnis einbuchten(const SMatrix& m) {
-    const std::string name = naechsterFreierName();
+NamenErgebnis einbuchten(SMatrix m) {
+    std::string name = naechsterFreierName();
     if (name == "?") {
-        return {name, false};
+        return {std::move(name), false};
     }
     auto& liste = listenZustand();
     termZustand().tempNamen.insert(name);
-    liste.sMatrixListe[name] = m;
+    liste.sMatrixListe.insert_or_assign(name, std::move(m));
     liste.smNamen.erase(name);
-    return {name, true};
+    return {std::move(name), true};
 }
 
-NamenErgebnis termAuswerten(const Zeichenfeld& term, bool ok) {
-    StufenErgebnis stand{term, ok};
-    const auto kommtVor = [&stand](const std::string& op) {
+NamenErgebnis termAuswerten(Zeichenfeld term, bool ok) {
+    StufenErgebnis stand{std::move(term), ok};
+    const auto kommtVor = [&stand](std::string_view op) {
         return posVonZeichen(stand.first, op) >= 0;
     };
     if (stand.second && kommtVor("^")) {
@@ -223,18 +228,20 @@ std::pair<std::int64_t, std::int64_t> klammerkernEnden(const Zeichenfeld& feld) 
     return {0, 0};
 }
 
-Zeichenfeld entkerne(const Zeichenfeld& feld) {
+Zeichenfeld entkerne(Zeichenfeld feld) {
     const auto [links, rechts] = klammerkernEnden(feld);
     if (rechts <= links) {
         // No complete bracket pair: nothing to take out. parsen never gets here, because it
         // only calls this on balanced terms that hold brackets.
         return feld;
     }
-    const Zeichenfeld kern(feld.begin() + links + 1, feld.begin() + rechts);
+    Zeichenfeld kern(std::make_move_iterator(feld.begin() + links + 1),
+                     std::make_move_iterator(feld.begin() + rechts));
     // A failed core leaves "Fehler" behind, on which the enclosing evaluation fails.
-    const auto [name, ok] = termAuswerten(kern, true);
+    auto [name, ok] = termAuswerten(std::move(kern), true);
     (void)ok;
-    return ersetzt(feld, links, rechts, {name});
+    ersetzen(feld, links, rechts, std::move(name));
+    return feld;
 }
 
 NamenErgebnis parsen(std::string_view kette) {
@@ -248,9 +255,9 @@ NamenErgebnis parsen(std::string_view kette) {
         ok = klammernAusgewogen(t);
     }
     while (ok && !klammerfrei(t)) {
-        t = entkerne(t);
+        t = entkerne(std::move(t));
     }
-    return termAuswerten(t, ok);
+    return termAuswerten(std::move(t), ok);
 }
 
 void tempNamenEntfernen(const std::string& behalten) {

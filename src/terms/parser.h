@@ -47,6 +47,15 @@ const std::set<std::string>& termAlphabet(); // the 42 tokens of the language
 const std::set<std::string>& mNamen();       // "r", "A" ... "Z", "(": what a term may begin with
 const std::set<std::string>& nieRechts();    // "(", "*", "m", "^", "r", "+": never at the end
 
+// The checks and the evaluator look tokens up by their number in the alphabet instead of in the
+// sets above: 0 ... 25 for "A" ... "Z", then "r", "(", ")", "+", "m", "*", "^" and "1" ... "9"
+// (26 ... 41). Any other text has no number (-1).
+inline constexpr int alphabetGroesse = 42;
+enum TokenNummer : int { nrSkalar = 26, nrAuf, nrZu, nrPlus, nrMinus, nrMal, nrHoch, nrEins };
+int tokenNummer(std::string_view token);
+bool istAnfangsToken(int nummer); // in mNamen
+bool istNieRechts(int nummer);    // in nieRechts
+
 // One token per user-perceived character. "-" becomes "m", "r" stays "r", blanks are dropped,
 // everything else is upper-cased by full Unicode case mapping ("ß" becomes the one token "SS").
 // Never rejects anything; malformed UTF-8 bytes become tokens of their own.
@@ -56,12 +65,14 @@ Zeichenfeld string2ZeichenFeldL(std::string_view quelle);
 // The tokens that belong to the alphabet, in their order.
 Zeichenfeld gereinigt(const Zeichenfeld& feld);
 // The index of the last token equal to `zeichen`, or -1.
-std::int64_t posVonZeichen(const Zeichenfeld& feld, const std::string& zeichen);
+std::int64_t posVonZeichen(const Zeichenfeld& feld, std::string_view zeichen);
 
 // Syntax.
 inline const std::string syntaxFehler =
     "Der Term ist unabhängig von den Werten der Matrizen fehlerhaft.\n";
+// A new set on every call; the checks themselves use darfFolgen, which builds nothing.
 std::set<std::string> erlaubteNachfolger(const std::string& v);
+bool darfFolgen(const std::string& v, const std::string& w); // w in erlaubteNachfolger(v)
 bool formelKorrekt(const Zeichenfeld& feld);
 bool klammernAusgewogen(const Zeichenfeld& feld);
 bool klammerfrei(const Zeichenfeld& feld);
@@ -79,8 +90,8 @@ using StufenErgebnis = std::pair<Zeichenfeld, bool>;
 NamenErgebnis parsen(std::string_view kette);
 // Indices of the last "(" and of the first ")" after it; (0, 0) when there is no such pair.
 std::pair<std::int64_t, std::int64_t> klammerkernEnden(const Zeichenfeld& feld);
-Zeichenfeld entkerne(const Zeichenfeld& feld);
-NamenErgebnis termAuswerten(const Zeichenfeld& term, bool ok);
+Zeichenfeld entkerne(Zeichenfeld feld);
+NamenErgebnis termAuswerten(Zeichenfeld term, bool ok);
 StufenErgebnis potenzenAuswerten(Zeichenfeld term, bool ok);
 StufenErgebnis malAuswerten(Zeichenfeld term, bool ok);
 StufenErgebnis minusAuswerten(Zeichenfeld term, bool ok);
@@ -88,8 +99,9 @@ StufenErgebnis plusAuswerten(Zeichenfeld term, bool ok);
 std::pair<Matrix, bool> matProdukt(const Matrix& m1, const Matrix& m2);
 std::pair<Matrix, bool> matSumme(const Matrix& m1, const Matrix& m2);
 // Stores m under the next free letter and records the name in tempNamen; ("?", false) when no
-// letter is free.
-NamenErgebnis einbuchten(const SMatrix& m);
+// letter is free. Takes m by value: the evaluator hands over a fresh text matrix, which is moved
+// into the list instead of copied entry by entry.
+NamenErgebnis einbuchten(SMatrix m);
 
 // mat^n for n > 0, the inverse for n = -1. Appends its message to fehlerListe when mat is not
 // square, or for n = -1 when its determinant is exactly 0.0.

@@ -1,6 +1,9 @@
 #include "terms/parser.h"
 #include "terms/zeichen.h"
 
+#include <array>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 
 namespace tabulon {
@@ -12,15 +15,40 @@ std::optional<TermZustand>& termSpeicher() {
     return zustand;
 }
 
-std::set<std::string> grossbuchstabenUnd(std::initializer_list<const char*> weitere) {
+// The alphabet in token-number order (see tokenNummer in parser.h).
+constexpr std::string_view alphabetFolge = "ABCDEFGHIJKLMNOPQRSTUVWXYZr()+m*^123456789";
+static_assert(alphabetFolge.size() == alphabetGroesse);
+
+// Token number by byte; every token is one byte long.
+const std::array<std::int8_t, 256>& nummernTafel() {
+    static const std::array<std::int8_t, 256> tafel = [] {
+        std::array<std::int8_t, 256> t{};
+        t.fill(-1);
+        for (std::size_t i = 0; i < alphabetFolge.size(); ++i) {
+            t[static_cast<unsigned char>(alphabetFolge[i])] = static_cast<std::int8_t>(i);
+        }
+        return t;
+    }();
+    return tafel;
+}
+
+std::set<std::string> mengeAus(bool (*gehoertDazu)(int)) {
     std::set<std::string> menge;
-    for (char c = 'A'; c <= 'Z'; ++c) {
-        menge.insert(std::string(1, c));
-    }
-    for (const char* w : weitere) {
-        menge.insert(w);
+    for (int i = 0; i < alphabetGroesse; ++i) {
+        if (gehoertDazu(i)) {
+            menge.insert(std::string(1, alphabetFolge[static_cast<std::size_t>(i)]));
+        }
     }
     return menge;
+}
+
+bool nurAscii(std::string_view text) {
+    for (const char c : text) {
+        if (static_cast<unsigned char>(c) >= 0x80) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace
@@ -37,24 +65,69 @@ void termZustandZuruecksetzen() {
     termSpeicher().emplace();
 }
 
+int tokenNummer(std::string_view token) {
+    if (token.size() != 1) {
+        return -1;
+    }
+    return nummernTafel()[static_cast<unsigned char>(token[0])];
+}
+
+bool istAnfangsToken(int nummer) {
+    return nummer >= 0 && nummer <= nrAuf; // "A" ... "Z", "r", "("
+}
+
+bool istNieRechts(int nummer) {
+    switch (nummer) {
+    case nrAuf:
+    case nrMal:
+    case nrMinus:
+    case nrHoch:
+    case nrSkalar:
+    case nrPlus:
+        return true;
+    default:
+        return false;
+    }
+}
+
 const std::set<std::string>& termAlphabet() {
-    static const std::set<std::string> alphabet = grossbuchstabenUnd(
-        {"+", "m", "*", "^", "1", "2", "3", "4", "5", "6", "7", "8", "9", "r", "(", ")"});
+    static const std::set<std::string> alphabet = mengeAus([](int) { return true; });
     return alphabet;
 }
 
 const std::set<std::string>& mNamen() {
-    static const std::set<std::string> namen = grossbuchstabenUnd({"r", "("});
+    static const std::set<std::string> namen = mengeAus(istAnfangsToken);
     return namen;
 }
 
 const std::set<std::string>& nieRechts() {
-    static const std::set<std::string> menge{"(", "*", "m", "^", "r", "+"};
+    static const std::set<std::string> menge = mengeAus(istNieRechts);
     return menge;
 }
 
 Zeichenfeld string2ZeichenFeld(std::string_view quelle) {
     Zeichenfeld feld;
+    feld.reserve(quelle.size());
+    if (nurAscii(quelle)) {
+        // Plain ASCII, as terms are typed: every byte is one character except "\r\n", and
+        // upper-casing touches only "a" ... "z". Spares the general splitting its list of views.
+        for (std::size_t i = 0; i < quelle.size(); ++i) {
+            const char c = quelle[i];
+            if (c == '-') {
+                feld.emplace_back("m");
+            } else if (c == 'r') {
+                feld.emplace_back("r");
+            } else if (c == '\r' && i + 1 < quelle.size() && quelle[i + 1] == '\n') {
+                feld.emplace_back("\r\n");
+                ++i;
+            } else if (c >= 'a' && c <= 'z') {
+                feld.emplace_back(1, static_cast<char>(c - 'a' + 'A'));
+            } else if (c != ' ') {
+                feld.emplace_back(1, c);
+            }
+        }
+        return feld;
+    }
     for (const std::string_view zeichen : zeichenZerlegen(quelle)) {
         if (zeichen == "-") {
             feld.emplace_back("m");
@@ -79,15 +152,16 @@ Zeichenfeld string2ZeichenFeldL(std::string_view quelle) {
 
 Zeichenfeld gereinigt(const Zeichenfeld& feld) {
     Zeichenfeld sauber;
+    sauber.reserve(feld.size());
     for (const auto& zeichen : feld) {
-        if (termAlphabet().contains(zeichen)) {
+        if (tokenNummer(zeichen) >= 0) {
             sauber.push_back(zeichen);
         }
     }
     return sauber;
 }
 
-std::int64_t posVonZeichen(const Zeichenfeld& feld, const std::string& zeichen) {
+std::int64_t posVonZeichen(const Zeichenfeld& feld, std::string_view zeichen) {
     for (auto i = static_cast<std::int64_t>(feld.size()) - 1; i >= 0; --i) {
         if (feld[static_cast<std::size_t>(i)] == zeichen) {
             return i;

@@ -86,14 +86,17 @@ std::pair<std::string, bool> auslisten(const std::string& name) {
 }
 
 std::string naechsterFreierName() {
+    // The set is ordered like grossBuchstaben: "A" < "B" < ... < "Z" as texts. Longer or other
+    // texts that may have been put in between are skipped, so the answer is the first free
+    // letter in that order, found without a lookup per letter.
     const std::set<std::string>& frei = listenZustand().smNamen;
-    const std::array<std::string, 27>& folge = grossBuchstaben();
-    for (std::size_t i = 0; i + 1 < folge.size(); ++i) {
-        if (frei.count(folge[i]) != 0) {
-            return folge[i];
+    for (auto it = frei.lower_bound("A");
+         it != frei.end() && static_cast<unsigned char>((*it)[0]) <= 'Z'; ++it) {
+        if (it->size() == 1) {
+            return *it;
         }
     }
-    return folge.back();
+    return grossBuchstaben().back();
 }
 
 std::string aktuelleListe() {

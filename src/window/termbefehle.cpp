@@ -25,6 +25,22 @@ std::int64_t anzahlLaeufe(const std::string& feld) {
     return static_cast<std::int64_t>(wert);
 }
 
+// Stores the run's result under the target as the list stores any matrix. A temporary result
+// is removed right after the run, so its entry is handed over instead of copied; the result can
+// also be the target itself, or a matrix of the list that must stay as it is.
+void ergebnisUebernehmen(const std::string& ergebnis, const std::string& ziel) {
+    auto& liste = listenZustand();
+    if (ergebnis != ziel) {
+        auto& quelle = liste.sMatrixListe.at(ergebnis);
+        if (termZustand().tempNamen.contains(ergebnis)) {
+            liste.sMatrixListe.insert_or_assign(ziel, std::move(quelle));
+        } else {
+            liste.sMatrixListe.insert_or_assign(ziel, quelle);
+        }
+    }
+    liste.smNamen.erase(ziel);
+}
+
 } // namespace
 
 void ViewController::parsStart() {
@@ -77,10 +93,7 @@ void ViewController::parsNfachStart() {
             const auto [ergebnis, gelungen] = parsen(term);
             ok = gelungen;
             if (ok) {
-                // Copied first: the result may itself be the target's entry.
-                const SMatrix wert = liste.sMatrixListe.at(ergebnis);
-                liste.sMatrixListe[name] = wert;
-                liste.smNamen.erase(name);
+                ergebnisUebernehmen(ergebnis, name);
             }
             // In the first run a temporary may have taken the still free target letter; the
             // target keeps its entry all the same.

@@ -134,5 +134,28 @@ TEST_F(Auswertung, JederSchrittBrauchtEinenFreienBuchstaben) {
     EXPECT_TRUE(termZustand().tempNamen.empty());
 }
 
+// Temporaries take the first free letter in the order A ... Z; texts that are no letter name
+// never count, wherever they sort among the letters.
+TEST_F(Auswertung, FreierNameNurAusDenBuchstaben) {
+    const std::vector<std::pair<std::set<std::string>, std::string>> faelle{
+        {{"AB", "B", "?", "a", "0"}, "B"},
+        {{"ZZ", "\u00C4", "\xC3", "Z\u0301"}, "?"},
+        {{"[", "a"}, "?"},
+        {{}, "?"},
+        {{"Z", "ZA", "A\u0301"}, "Z"},
+        {{"A", "B"}, "A"},
+    };
+    for (const auto& [frei, erwartet] : faelle) {
+        listenZustand().smNamen = frei;
+        EXPECT_EQ(naechsterFreierName(), erwartet);
+        const auto [name, ok] = einbuchten(SMatrix(1, 1));
+        EXPECT_EQ(name, erwartet);
+        EXPECT_EQ(ok, erwartet != "?");
+        EXPECT_EQ(listenZustand().sMatrixListe.contains(erwartet), erwartet != "?");
+        tempNamenEntfernen();
+        listenZustand().sMatrixListe.clear();
+    }
+}
+
 } // namespace
 } // namespace tabulon

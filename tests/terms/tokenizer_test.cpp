@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 namespace tabulon {
 namespace {
 
@@ -39,6 +42,23 @@ INSTANTIATE_TEST_SUITE_P(
                   "b",
                   {"\xFF", "B"}},
         Zerlegung{"\xC0\xAF", {"\xC0", "\xAF"}}));
+
+// Plain ASCII takes a shorter way than the general splitting; a character outside ASCII at the
+// end sends the same text the general way, and both must agree on every byte and on "\r\n".
+TEST(Tokenizer, AsciiWieAllgemein) {
+    std::vector<std::string> texte{"a\r\nb",   "\r",    "\n\r",    "\r\r\n",
+                                   "A-r*R^-1", " x y ", "(a+b)*C", "\x7F\x01~"};
+    for (int c = 1; c < 0x80; ++c) {
+        texte.push_back(std::string("a") + static_cast<char>(c) + "z");
+    }
+    for (const auto& text : texte) {
+        Zeichenfeld allgemein = string2ZeichenFeld(text + "\u00E9");
+        ASSERT_FALSE(allgemein.empty());
+        EXPECT_EQ(allgemein.back(), "\u00C9");
+        allgemein.pop_back();
+        EXPECT_EQ(string2ZeichenFeld(text), allgemein) << text;
+    }
+}
 
 TEST(Tokenizer, OhneAbbildungBleibtDerTextWieGetippt) {
     EXPECT_EQ(string2ZeichenFeldL("a b-r%ß\u00e9"),
