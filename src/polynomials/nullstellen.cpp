@@ -2,88 +2,226 @@
 // the interval [-G, G] (G the root bound) into pieces on which p is monotonic. A piece whose ends
 // differ in sign holds exactly one root, found by bisection; a cut point where p is zero is a
 // multiple root and is taken as it is. The order of the cut points makes the result ascending.
+//
+// The eigenvalue command runs this on every characteristic polynomial, so the work is arranged
+// for speed without changing a bit of any result: the bisections of one level are independent
+// and run side by side, so that the processor overlaps their evaluations, and a bisection stops
+// as soon as a halving leaves its interval as it was, because every later one would then do the
+// same (the state is all there is). Near roots beyond about 8 in magnitude the interval cannot
+// shrink below 1e-15, and without that stop the search would spin to its 1000 steps.
 
 #include "numeric/matrix.h"
 #include "polynomials/polynom.h"
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <cmath>
+#include <cstdint>
 
 namespace tabulon {
 
-double findeNullst(const Polynom& fu, double von, double bis) {
-    double a = von;
-    double b = bis;
-    int schritte = 0;
-    // The sign is always compared with the value at the left end von, never at the moving a.
-    const double vonWert = fu.wert(von);
-    while (std::fabs(b - a) > 1e-15 && schritte < 1000) {
-        const double m = (a + b) / 2;
-        ++schritte;
-        // Near roots beyond about 8 the spacing of doubles exceeds 1e-15, so the interval
-        // stops shrinking and only the step limit ends the search.
-        if (fu.wert(m) * vonWert < 0) {
-            b = m;
-        } else {
-            a = m;
-        }
-    }
-    return korr((a + b) / 2);
-}
-
 namespace {
 
-std::vector<double> quadratischeNullst(const Polynom& p) {
+// The value of a polynomial exactly as Polynom::wert computes it. Horner's scheme over all nine
+// coefficients starts with zeros where the top coefficients are +0.0, and for a finite x it keeps
+// +0.0 there (x * +0.0 is a zero, and a zero plus +0.0 is +0.0), so it may start just above the
+// highest coefficient that is not +0.0. An infinite or NaN x takes all nine steps.
+class Auswertung {
+public:
+    explicit Auswertung(const Polynom& p) : k_(p.koeff()) {
+        std::int64_t oben = maxGrad;
+        while (oben >= 0 && std::bit_cast<std::uint64_t>(k_[static_cast<std::size_t>(oben)]) == 0) {
+            --oben;
+        }
+        start_ = std::min<std::int64_t>(oben, maxGrad - 1);
+    }
+
+    double wert(double x) const {
+        std::array<double, 1> v{};
+        werte(&x, v.data(), 1);
+        return v[0];
+    }
+
+    // Values at x[0 ... anzahl); the lanes are independent, so their chains overlap.
+    void werte(const double* x, double* v, std::size_t anzahl) const {
+        bool endlich = true;
+        for (std::size_t l = 0; l < anzahl; ++l) {
+            endlich = endlich && std::isfinite(x[l]);
+        }
+        const std::int64_t start = endlich ? start_ : maxGrad - 1;
+        const double oberster = k_[static_cast<std::size_t>(start + 1)];
+        for (std::size_t l = 0; l < anzahl; ++l) {
+            v[l] = oberster;
+        }
+        for (std::int64_t i = start; i >= 0; --i) {
+            const double k = k_[static_cast<std::size_t>(i)];
+            for (std::size_t l = 0; l < anzahl; ++l) {
+                v[l] = x[l] * v[l] + k;
+            }
+        }
+    }
+
+private:
+    Polynom::Koeffizienten k_;
+    std::int64_t start_;
+};
+
+bool gleicheBits(double x, double y) {
+    return std::bit_cast<std::uint64_t>(x) == std::bit_cast<std::uint64_t>(y);
+}
+
+constexpr std::size_t spuren = 8;
+
+// Up to `spuren` bisections in lock step: lane l searches from von[l] to bis[l], exactly as
+// findeNullst does on its own, and writes its root to wurzel[l].
+void bisektionen(const Auswertung& fu, const double* von, const double* bis, double* wurzel,
+                 std::size_t anzahl) {
+    std::array<double, spuren> a{};
+    std::array<double, spuren> b{};
+    std::array<double, spuren> m{};
+    std::array<double, spuren> v{};
+    std::array<double, spuren> vonWert{};
+    std::array<int, spuren> schritte{};
+    std::array<bool, spuren> laeuft{};
+    std::copy(von, von + anzahl, a.begin());
+    std::copy(bis, bis + anzahl, b.begin());
+    // The sign is always compared with the value at the left end von, never at the moving a.
+    fu.werte(a.data(), vonWert.data(), anzahl);
+    bool irgendeine = false;
+    for (std::size_t l = 0; l < anzahl; ++l) {
+        laeuft[l] = std::fabs(b[l] - a[l]) > 1e-15;
+        irgendeine = irgendeine || laeuft[l];
+    }
+    while (irgendeine) {
+        for (std::size_t l = 0; l < anzahl; ++l) {
+            m[l] = (a[l] + b[l]) / 2;
+        }
+        fu.werte(m.data(), v.data(), anzahl);
+        irgendeine = false;
+        for (std::size_t l = 0; l < anzahl; ++l) {
+            if (!laeuft[l]) {
+                continue;
+            }
+            ++schritte[l];
+            bool unveraendert = false;
+            if (v[l] * vonWert[l] < 0) {
+                unveraendert = gleicheBits(m[l], b[l]);
+                b[l] = m[l];
+            } else {
+                unveraendert = gleicheBits(m[l], a[l]);
+                a[l] = m[l];
+            }
+            laeuft[l] = !unveraendert && std::fabs(b[l] - a[l]) > 1e-15 && schritte[l] < 1000;
+            irgendeine = irgendeine || laeuft[l];
+        }
+    }
+    for (std::size_t l = 0; l < anzahl; ++l) {
+        wurzel[l] = korr((a[l] + b[l]) / 2);
+    }
+}
+
+// A level of degree g yields at most twice as many roots as its derivative has, plus two (every
+// piece may give a bisection root and its right end): 2, 6, 14, ... 254 for degree 8.
+constexpr std::size_t maxWurzeln = std::size_t{1} << maxGrad;
+
+struct Wurzeln {
+    std::array<double, maxWurzeln> w;
+    std::size_t anzahl = 0;
+    void dazu(double x) { w[anzahl++] = x; }
+};
+
+void quadratischeNullst(const Polynom& p, Wurzeln& ergebnis) {
     const double q = p.koeff(0) / p.koeff(2);
     const double r = p.koeff(1) / p.koeff(2);
     const double diskr = r * r / 4 - q;
     if (istNull(diskr)) {
-        return {korr(-r / 2)};
+        ergebnis.dazu(korr(-r / 2));
+    } else if (!(diskr < 0)) {
+        ergebnis.dazu(korr(-r / 2 - std::sqrt(diskr)));
+        ergebnis.dazu(korr(-r / 2 + std::sqrt(diskr)));
     }
-    if (diskr < 0) {
-        return {};
-    }
-    return {korr(-r / 2 - std::sqrt(diskr)), korr(-r / 2 + std::sqrt(diskr))};
 }
 
-std::vector<double> getrennteNullst(const Polynom& p) {
-    const std::vector<double> ablNullst = nullstMenge(p.abl());
-    const double grenze = p.nullstGrenze();
-    std::vector<double> schnitte;
-    schnitte.reserve(ablNullst.size() + 2);
-    schnitte.push_back(-grenze);
-    schnitte.insert(schnitte.end(), ablNullst.begin(), ablNullst.end());
-    schnitte.push_back(grenze);
+void nullstellen(const Polynom& p, Wurzeln& ergebnis);
 
-    std::vector<double> ergebnis;
-    for (std::size_t i = 0; i + 1 < schnitte.size(); ++i) {
-        const double a = korr(schnitte[i]);
-        const double b = korr(schnitte[i + 1]);
-        if (p.wert(a) * p.wert(b) < 0) {
-            ergebnis.push_back(findeNullst(p, a, b));
+void getrennteNullst(const Polynom& p, Wurzeln& ergebnis) {
+    Wurzeln schnitte;
+    schnitte.dazu(-p.nullstGrenze());
+    nullstellen(p.abl(), schnitte);
+    schnitte.dazu(p.nullstGrenze());
+
+    // The values at the cut points, each taken once: a cut point is the right end of one piece
+    // and the left end of the next.
+    const Auswertung fu(p);
+    std::array<double, maxWurzeln> punkt;
+    std::array<double, maxWurzeln> wert;
+    for (std::size_t i = 0; i < schnitte.anzahl; ++i) {
+        punkt[i] = korr(schnitte.w[i]);
+    }
+    fu.werte(punkt.data(), wert.data(), schnitte.anzahl);
+
+    // The pieces that change sign, bisected side by side, a batch of lanes at a time.
+    std::array<std::size_t, maxWurzeln> stueck;
+    std::size_t gesucht = 0;
+    for (std::size_t i = 0; i + 1 < schnitte.anzahl; ++i) {
+        if (wert[i] * wert[i + 1] < 0) {
+            stueck[gesucht++] = i;
+        }
+    }
+    std::array<double, maxWurzeln> gefunden;
+    for (std::size_t s = 0; s < gesucht; s += spuren) {
+        const std::size_t anzahl = std::min(spuren, gesucht - s);
+        std::array<double, spuren> von;
+        std::array<double, spuren> bis;
+        for (std::size_t l = 0; l < anzahl; ++l) {
+            von[l] = punkt[stueck[s + l]];
+            bis[l] = punkt[stueck[s + l] + 1];
+        }
+        bisektionen(fu, von.data(), bis.data(), gefunden.data() + s, anzahl);
+    }
+
+    std::size_t naechstes = 0;
+    for (std::size_t i = 0; i + 1 < schnitte.anzahl; ++i) {
+        if (naechstes < gesucht && stueck[naechstes] == i) {
+            ergebnis.dazu(gefunden[naechstes++]);
         }
         // Only the right end is tested: the left one was the right end of the piece before,
         // and -G cannot be a root.
-        if (korr(p.wert(b)) == 0.0) {
-            ergebnis.push_back(b);
+        if (korr(wert[i + 1]) == 0.0) {
+            ergebnis.dazu(punkt[i + 1]);
         }
     }
-    return ergebnis;
+}
+
+void nullstellen(const Polynom& p, Wurzeln& ergebnis) {
+    switch (p.grad()) {
+    case -1:
+    case 0:
+        return;
+    case 1:
+        ergebnis.dazu(korr(-p.koeff(0) / p.koeff(1)));
+        return;
+    case 2:
+        quadratischeNullst(p, ergebnis);
+        return;
+    default:
+        getrennteNullst(p, ergebnis);
+    }
 }
 
 } // namespace
 
+double findeNullst(const Polynom& fu, double von, double bis) {
+    double wurzel = 0.0;
+    bisektionen(Auswertung(fu), &von, &bis, &wurzel, 1);
+    return wurzel;
+}
+
 std::vector<double> nullstMenge(const Polynom& p) {
-    switch (p.grad()) {
-    case -1:
-    case 0:
-        return {};
-    case 1:
-        return {korr(-p.koeff(0) / p.koeff(1))};
-    case 2:
-        return quadratischeNullst(p);
-    default:
-        return getrennteNullst(p);
-    }
+    Wurzeln w;
+    nullstellen(p, w);
+    return {w.w.begin(), w.w.begin() + static_cast<std::ptrdiff_t>(w.anzahl)};
 }
 
 } // namespace tabulon
