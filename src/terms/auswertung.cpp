@@ -20,7 +20,20 @@ std::optional<Matrix> operand(const Zeichenfeld& term, std::int64_t i) {
     if (eintrag == liste.end()) {
         return std::nullopt;
     }
-    return matrix(eintrag->second);
+    const std::string& name = eintrag->first;
+    auto& zustand = termZustand();
+    if (name.size() != 1 || name[0] < 'A' || name[0] > 'Z' || zustand.tempNamen.contains(name)) {
+        return matrix(eintrag->second);
+    }
+    // The conversion depends on the texts alone, so equal texts give the remembered numbers
+    // to the last bit; any change of the entry, also by other commands, shows in the comparison.
+    auto& gelesen = zustand.gelesen[static_cast<std::size_t>(name[0] - 'A')];
+    if (!gelesen.belegt || gelesen.texte != eintrag->second) {
+        gelesen.werte = matrix(eintrag->second);
+        gelesen.texte = eintrag->second;
+        gelesen.belegt = true;
+    }
+    return gelesen.werte;
 }
 
 const std::string& token(const Zeichenfeld& term, std::int64_t i) {

@@ -19,6 +19,7 @@
 #include "numeric/matrix.h"
 #include "textmatrix/smatrix.h"
 
+#include <array>
 #include <cstdint>
 #include <set>
 #include <string>
@@ -33,10 +34,21 @@ using Zeichenfeld = std::vector<std::string>;
 // What one evaluation shares. The commands set r from the scalar field before each evaluation,
 // show fehlerListe in front of their failure line and then empty it, and remove the entries
 // named in tempNamen when the evaluation is over.
+// The numbers of a list matrix as its texts gave them when it was last read as an operand.
+struct GelesenerOperand {
+    SMatrix texte;
+    Matrix werte; // matrix(texte)
+    bool belegt = false;
+};
+
 struct TermZustand {
     std::string fehlerListe;         // messages of the term language, in the order they arose
     std::set<std::string> tempNamen; // list names that hold intermediate results
     double r = 0.0;                  // the value of the token "r"
+    // By letter A ... Z. The n-fold command reads the same operands in every run; their texts
+    // are compared with the remembered ones, and only texts that differ are converted again.
+    // Temporaries are read once and are not remembered.
+    std::array<GelesenerOperand, 26> gelesen;
 };
 
 TermZustand& termZustand();

@@ -134,6 +134,39 @@ TEST_F(Auswertung, JederSchrittBrauchtEinenFreienBuchstaben) {
     EXPECT_TRUE(termZustand().tempNamen.empty());
 }
 
+// The operands' numbers are remembered between evaluations; every change of an entry's texts,
+// of one entry, of the size, or by a reset, must be read anew.
+TEST_F(Auswertung, GeaenderteOperandenWerdenNeuGelesen) {
+    struct Stand {
+        std::int64_t zeilen;
+        std::int64_t spalten;
+        std::vector<std::string> a;
+        std::vector<std::string> summe;
+    };
+    const std::vector<Stand> staende{
+        {1, 1, {"1"}, {"2.0"}},
+        {1, 1, {"1"}, {"2.0"}},
+        {1, 1, {"2"}, {"4.0"}},
+        {1, 1, {"2.0"}, {"4.0"}},
+        {1, 1, {"x"}, {"0.0"}},
+        {1, 2, {"1", "2"}, {"2.0", "4.0"}},
+        {2, 1, {"1", "2"}, {"2.0", "4.0"}},
+        {2, 1, {"1", "3"}, {"2.0", "6.0"}},
+    };
+    for (const auto& stand : staende) {
+        lege("A", stand.zeilen, stand.spalten, stand.a);
+        const auto [name, ok] = parsen("A+A");
+        ASSERT_TRUE(ok);
+        EXPECT_EQ(listenZustand().sMatrixListe.at(name).grid, stand.summe) << stand.a[0];
+        tempNamenEntfernen();
+    }
+    termZustandZuruecksetzen();
+    lege("A", 1, 1, {"5"});
+    EXPECT_EQ(listenZustand().sMatrixListe.at(parsen("A+A").first).grid,
+              std::vector<std::string>{"10.0"});
+    tempNamenEntfernen();
+}
+
 // Temporaries take the first free letter in the order A ... Z; texts that are no letter name
 // never count, wherever they sort among the letters.
 TEST_F(Auswertung, FreierNameNurAusDenBuchstaben) {
