@@ -37,29 +37,23 @@ public:
         start_ = std::min<std::int64_t>(oben, maxGrad - 1);
     }
 
-    double wert(double x) const {
-        std::array<double, 1> v{};
-        werte(&x, v.data(), 1);
-        return v[0];
-    }
-
-    // Values at x[0 ... anzahl); the lanes are independent, so their chains overlap.
-    void werte(const double* x, double* v, std::size_t anzahl) const {
+    // Values at x[0 ... n); the lanes are independent, so their chains overlap. A fixed number
+    // of lanes lets the compiler keep them in vector registers.
+    template <std::size_t N> void werte(const double* x, double* v) const {
         bool endlich = true;
-        for (std::size_t l = 0; l < anzahl; ++l) {
+        for (std::size_t l = 0; l < N; ++l) {
             endlich = endlich && std::isfinite(x[l]);
         }
         const std::int64_t start = endlich ? start_ : maxGrad - 1;
-        const double oberster = k_[static_cast<std::size_t>(start + 1)];
-        for (std::size_t l = 0; l < anzahl; ++l) {
-            v[l] = oberster;
-        }
+        std::array<double, N> w;
+        w.fill(k_[static_cast<std::size_t>(start + 1)]);
         for (std::int64_t i = start; i >= 0; --i) {
             const double k = k_[static_cast<std::size_t>(i)];
-            for (std::size_t l = 0; l < anzahl; ++l) {
-                v[l] = x[l] * v[l] + k;
+            for (std::size_t l = 0; l < N; ++l) {
+                w[l] = x[l] * w[l] + k;
             }
         }
+        std::copy(w.begin(), w.end(), v);
     }
 
 private:
@@ -71,12 +65,16 @@ bool gleicheBits(double x, double y) {
     return std::bit_cast<std::uint64_t>(x) == std::bit_cast<std::uint64_t>(y);
 }
 
+// A level has at most eight pieces that change sign for a characteristic polynomial; more are
+// bisected in further batches.
 constexpr std::size_t spuren = 8;
 
-// Up to `spuren` bisections in lock step: lane l searches from von[l] to bis[l], exactly as
-// findeNullst does on its own, and writes its root to wurzel[l].
-void bisektionen(const Auswertung& fu, const double* von, const double* bis, double* wurzel,
-                 std::size_t anzahl) {
+// N bisections in lock step: lane l searches from von[l] to bis[l], exactly as findeNullst does
+// on its own, and writes its root to wurzel[l].
+template <std::size_t N>
+void bisektionen(const Auswertung& fu, const double* von, const double* bis, double* wurzel) {
+    constexpr std::size_t spuren = N;
+    constexpr std::size_t anzahl = N;
     std::array<double, spuren> a{};
     std::array<double, spuren> b{};
     std::array<double, spuren> m{};
@@ -87,37 +85,57 @@ void bisektionen(const Auswertung& fu, const double* von, const double* bis, dou
     std::copy(von, von + anzahl, a.begin());
     std::copy(bis, bis + anzahl, b.begin());
     // The sign is always compared with the value at the left end von, never at the moving a.
-    fu.werte(a.data(), vonWert.data(), anzahl);
+    fu.werte<spuren>(a.data(), vonWert.data());
     bool irgendeine = false;
     for (std::size_t l = 0; l < anzahl; ++l) {
         laeuft[l] = std::fabs(b[l] - a[l]) > 1e-15;
         irgendeine = irgendeine || laeuft[l];
     }
     while (irgendeine) {
-        for (std::size_t l = 0; l < anzahl; ++l) {
+        for (std::size_t l = 0; l < spuren; ++l) {
             m[l] = (a[l] + b[l]) / 2;
         }
-        fu.werte(m.data(), v.data(), anzahl);
+        fu.werte<spuren>(m.data(), v.data());
         irgendeine = false;
-        for (std::size_t l = 0; l < anzahl; ++l) {
-            if (!laeuft[l]) {
-                continue;
+        for (std::size_t l = 0; l < spuren; ++l) {
+            const bool links = v[l] * vonWert[l] < 0;
+            const double neuA = links ? a[l] : m[l];
+            const double neuB = links ? m[l] : b[l];
+            const bool bewegt = !gleicheBits(neuA, a[l]) || !gleicheBits(neuB, b[l]);
+            if (laeuft[l]) {
+                a[l] = neuA;
+                b[l] = neuB;
+                ++schritte[l];
+                laeuft[l] = bewegt && std::fabs(neuB - neuA) > 1e-15 && schritte[l] < 1000;
             }
-            ++schritte[l];
-            bool unveraendert = false;
-            if (v[l] * vonWert[l] < 0) {
-                unveraendert = gleicheBits(m[l], b[l]);
-                b[l] = m[l];
-            } else {
-                unveraendert = gleicheBits(m[l], a[l]);
-                a[l] = m[l];
-            }
-            laeuft[l] = !unveraendert && std::fabs(b[l] - a[l]) > 1e-15 && schritte[l] < 1000;
             irgendeine = irgendeine || laeuft[l];
         }
     }
     for (std::size_t l = 0; l < anzahl; ++l) {
         wurzel[l] = korr((a[l] + b[l]) / 2);
+    }
+}
+
+// Up to `spuren` bisections side by side.
+void bisektionen(const Auswertung& fu, const double* von, const double* bis, double* wurzel,
+                 std::size_t anzahl) {
+    switch (anzahl) {
+    case 1:
+        return bisektionen<1>(fu, von, bis, wurzel);
+    case 2:
+        return bisektionen<2>(fu, von, bis, wurzel);
+    case 3:
+        return bisektionen<3>(fu, von, bis, wurzel);
+    case 4:
+        return bisektionen<4>(fu, von, bis, wurzel);
+    case 5:
+        return bisektionen<5>(fu, von, bis, wurzel);
+    case 6:
+        return bisektionen<6>(fu, von, bis, wurzel);
+    case 7:
+        return bisektionen<7>(fu, von, bis, wurzel);
+    default:
+        return bisektionen<8>(fu, von, bis, wurzel);
     }
 }
 
@@ -159,7 +177,9 @@ void getrennteNullst(const Polynom& p, Wurzeln& ergebnis) {
     for (std::size_t i = 0; i < schnitte.anzahl; ++i) {
         punkt[i] = korr(schnitte.w[i]);
     }
-    fu.werte(punkt.data(), wert.data(), schnitte.anzahl);
+    for (std::size_t i = 0; i < schnitte.anzahl; ++i) {
+        fu.werte<1>(&punkt[i], &wert[i]);
+    }
 
     // The pieces that change sign, bisected side by side, a batch of lanes at a time.
     std::array<std::size_t, maxWurzeln> stueck;
