@@ -8,7 +8,9 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 #include <locale.h>
+#include <utility>
 
 namespace tabulon {
 
@@ -68,6 +70,222 @@ template <typename... Args> std::string cFormat(const char* format, Args... args
     return ergebnis;
 }
 
+// The shortest digits that read back as x (std::to_chars without precision): `ziffern` holds
+// them without point, `exponent` is the decimal exponent of the first digit.
+struct KurzZiffern {
+    char ziffern[17];
+    int anzahl = 0;
+    int exponent = 0;
+    bool negativ = false;
+};
+
+KurzZiffern kuerzesteZiffern(double x) {
+    char puffer[32];
+    const char* ende =
+        std::to_chars(puffer, puffer + sizeof puffer, x, std::chars_format::scientific).ptr;
+    // The layout is "-d.ddde-XX": an optional sign, one digit, an optional point and more
+    // digits, then 'e', a sign and two or three digits.
+    KurzZiffern k;
+    const char* p = puffer;
+    if (*p == '-') {
+        k.negativ = true;
+        ++p;
+    }
+    for (; *p != 'e'; ++p) {
+        if (*p != '.') {
+            k.ziffern[k.anzahl++] = *p;
+        }
+    }
+    ++p;
+    const bool expNegativ = *p == '-';
+    int e = 0;
+    for (++p; p != ende; ++p) {
+        e = e * 10 + (*p - '0');
+    }
+    k.exponent = expNegativ ? -e : e;
+    return k;
+}
+
+// printf's %g layout with precision 15 for the significant digits ziffern[0..anzahl) (the first
+// one not 0, anzahl <= 15) and the decimal exponent of the first digit: plain notation when
+// -4 <= exponent < 15, else d.ddde+XX with at least two exponent digits; trailing zeros of the
+// fraction dropped. A text without point or exponent gets ".0". Returns the end of the text.
+char* gLayout(char* aus, bool negativ, const char* ziffern, int anzahl, int exponent) {
+    while (anzahl > 1 && ziffern[anzahl - 1] == '0') {
+        --anzahl;
+    }
+    if (negativ) {
+        *aus++ = '-';
+    }
+    if (exponent >= -4 && exponent < 15) {
+        if (exponent < 0) {
+            *aus++ = '0';
+            *aus++ = '.';
+            for (int i = -1; i > exponent; --i) {
+                *aus++ = '0';
+            }
+            for (int i = 0; i < anzahl; ++i) {
+                *aus++ = ziffern[i];
+            }
+            return aus;
+        }
+        const int ganz = exponent + 1;
+        for (int i = 0; i < ganz; ++i) {
+            *aus++ = i < anzahl ? ziffern[i] : '0';
+        }
+        *aus++ = '.';
+        if (anzahl <= ganz) {
+            *aus++ = '0';
+            return aus;
+        }
+        for (int i = ganz; i < anzahl; ++i) {
+            *aus++ = ziffern[i];
+        }
+        return aus;
+    }
+    *aus++ = ziffern[0];
+    if (anzahl > 1) {
+        *aus++ = '.';
+        for (int i = 1; i < anzahl; ++i) {
+            *aus++ = ziffern[i];
+        }
+    }
+    *aus++ = 'e';
+    *aus++ = exponent < 0 ? '-' : '+';
+    const int betrag = exponent < 0 ? -exponent : exponent;
+    if (betrag >= 100) {
+        *aus++ = static_cast<char>('0' + betrag / 100);
+    }
+    *aus++ = static_cast<char>('0' + betrag / 10 % 10);
+    *aus++ = static_cast<char>('0' + betrag % 10);
+    return aus;
+}
+
+// %.15g from the shortest round-trip digits D, or nothing when they cannot decide it.
+//
+// Let x be a normal double and D its shortest digits (at most 17), d1 the first digit and E the
+// decimal exponent of D, u = 10^(E-14) one unit of the 15th digit. D reads back as x, so
+// |x - D| <= ulp(x)/2 <= 2^-53 |x|, and |x| <= |D| / (1 - 2^-53) < (d1 + 1) 10^E / (1 - 2^-53).
+// Hence |x - D| / u < (d1 + 1) * 10^14 * 2^-53 / (1 - 2^-53) < 0.0111023 (d1 + 1) <= 0.112.
+// x and D lie in the same decade: a power of ten between them would itself read back as x and
+// be shorter than D (unless D is that power of ten, which has one digit).
+// - At most 15 digits: D lies on the grid of u and x is less than u/2 away from it, so rounding
+//   x to 15 digits gives D, with D's exponent.
+// - 16 or 17 digits: write D = (T + R/100) u with T the first 15 digits and R the next two
+//   (0..99). x/u lies within 0.0111023 (d1 + 1) of T + R/100, so when
+//   |R - 50| > 1.12 (d1 + 1) the exact x is on the same side of T + 1/2 as D and rounds to T
+//   (R < 50) or T + 1 (R > 50); no tie is possible. Otherwise (R near 50, which includes every
+//   exact tie such as 0.5 units) the caller asks the C library.
+// Zero is "0" or "-0" plus ".0". Subnormals have a larger relative ulp, and infinities and NaN
+// no digits: they go to the C library.
+std::optional<std::string> zahlTextSchnell(double x) {
+    if (x == 0.0) {
+        return std::string(std::signbit(x) ? "-0.0" : "0.0");
+    }
+    const double betrag = std::fabs(x);
+    if (!(betrag >= std::numeric_limits<double>::min()) || std::isinf(x)) {
+        return std::nullopt;
+    }
+    KurzZiffern k = kuerzesteZiffern(x);
+    int exponent = k.exponent;
+    if (k.anzahl > 15) {
+        const int r16 = k.ziffern[15] - '0';
+        const int r17 = k.anzahl > 16 ? k.ziffern[16] - '0' : 0;
+        const int r = r16 * 10 + r17;
+        const int d1 = k.ziffern[0] - '0';
+        const int abstand = r >= 50 ? r - 50 : 50 - r;
+        if (100 * abstand <= 112 * (d1 + 1)) {
+            return std::nullopt;
+        }
+        k.anzahl = 15;
+        if (r > 50) {
+            int i = 14;
+            while (i >= 0 && k.ziffern[i] == '9') {
+                k.ziffern[i] = '0';
+                --i;
+            }
+            if (i >= 0) {
+                ++k.ziffern[i];
+            } else {
+                // 999999999999999|5x rounds up to the next power of ten.
+                k.ziffern[0] = '1';
+                k.anzahl = 1;
+                ++exponent;
+            }
+        }
+    }
+    char puffer[32];
+    const char* ende = gLayout(puffer, k.negativ, k.ziffern, k.anzahl, exponent);
+    return std::string(puffer, static_cast<std::size_t>(ende - puffer));
+}
+
+// The literal forms from_chars and strtod read alike: an optional '-', digits with an optional
+// point (at least one digit), an optional exponent with sign and at least one digit, and
+// nothing else. Blanks, '+', hexadecimal, inf and nan are left to strtod.
+bool istSchlichteDezimalzahl(std::string_view t, bool& zifferNichtNull) {
+    std::size_t i = 0;
+    const std::size_t n = t.size();
+    if (i < n && t[i] == '-') {
+        ++i;
+    }
+    std::size_t ziffern = 0;
+    zifferNichtNull = false;
+    for (; i < n && t[i] >= '0' && t[i] <= '9'; ++i) {
+        ++ziffern;
+        zifferNichtNull = zifferNichtNull || t[i] != '0';
+    }
+    if (i < n && t[i] == '.') {
+        for (++i; i < n && t[i] >= '0' && t[i] <= '9'; ++i) {
+            ++ziffern;
+            zifferNichtNull = zifferNichtNull || t[i] != '0';
+        }
+    }
+    if (ziffern == 0) {
+        return false;
+    }
+    if (i < n && (t[i] == 'e' || t[i] == 'E')) {
+        ++i;
+        if (i < n && (t[i] == '+' || t[i] == '-')) {
+            ++i;
+        }
+        const std::size_t expAnfang = i;
+        while (i < n && t[i] >= '0' && t[i] <= '9') {
+            ++i;
+        }
+        if (i == expAnfang) {
+            return false;
+        }
+    }
+    return i == n;
+}
+
+// from_chars is correctly rounded like strtod. It is trusted only where the two cannot differ
+// in what they report: a plain decimal literal of moderate length whose value is a finite normal
+// double, or a zero written with zero digits. Overflow, underflow into the subnormals or to zero,
+// and every other form go through strtod.
+std::optional<double> text2ZahlSchnell(std::string_view text) {
+    constexpr std::size_t laengsteSchnelle = 64;
+    bool zifferNichtNull = false;
+    if (text.size() > laengsteSchnelle || !istSchlichteDezimalzahl(text, zifferNichtNull)) {
+        return std::nullopt;
+    }
+    double wert = 0.0;
+    const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), wert);
+    if (fehler != std::errc() || ende != text.data() + text.size()) {
+        return std::nullopt;
+    }
+    if (wert == 0.0) {
+        if (zifferNichtNull) {
+            return std::nullopt;
+        }
+        return wert;
+    }
+    if (!(std::fabs(wert) >= std::numeric_limits<double>::min()) || std::isinf(wert)) {
+        return std::nullopt;
+    }
+    return wert;
+}
+
 // A NaN is written "nan" whatever its sign bit: x86 produces 0/0 with the sign set, and the
 // C library would print that as "-nan", which is not a text the system shows.
 std::string mitPunktNull(double x, const char* format) {
@@ -81,11 +299,26 @@ std::string mitPunktNull(double x, const char* format) {
     return t;
 }
 
+// to_chars with a precision gives printf's digits for the same format in the C locale; only
+// its output buffer may be too small, and then snprintf writes the text.
+std::string mitPraezision(double x, std::chars_format form, int praezision,
+                          const char* cFormatText) {
+    char puffer[128];
+    const auto [ende, fehler] = std::to_chars(puffer, puffer + sizeof puffer, x, form, praezision);
+    if (fehler != std::errc()) {
+        return cFormat(cFormatText, praezision, x);
+    }
+    return std::string(puffer, static_cast<std::size_t>(ende - puffer));
+}
+
 } // namespace
 
 std::optional<double> text2Zahl(std::string_view text) {
     if (text.empty()) {
         return 0.0;
+    }
+    if (const std::optional<double> schnell = text2ZahlSchnell(text)) {
+        return schnell;
     }
     const Gelesen g = lies(text);
     if (g.gelesen == 0 || g.gelesen != text.size() || g.ueberlauf) {
@@ -97,6 +330,9 @@ std::optional<double> text2Zahl(std::string_view text) {
 }
 
 std::string zahlText(double x) {
+    if (std::optional<std::string> schnell = zahlTextSchnell(x)) {
+        return std::move(*schnell);
+    }
     return mitPunktNull(x, "%.15g");
 }
 
@@ -107,7 +343,14 @@ std::string ganzText(std::int64_t n) {
 }
 
 std::string zahlTextVoll(double x) {
-    return mitPunktNull(x, "%.17g");
+    if (std::isnan(x)) {
+        return "nan";
+    }
+    std::string t = mitPraezision(x, std::chars_format::general, 17, "%.*g");
+    if (t.find_first_of(".en") == std::string::npos) {
+        t += ".0";
+    }
+    return t;
 }
 
 std::string festkomma(double x, int amount) {
@@ -116,7 +359,7 @@ std::string festkomma(double x, int amount) {
     }
     // A negative precision would mean "default" to printf; the callers' digits are 1 to 10.
     const int stellen = amount < 0 ? 0 : amount;
-    return cFormat("%.*f", stellen, x);
+    return mitPraezision(x, std::chars_format::fixed, stellen, "%.*f");
 }
 
 std::string round(double x, int amount) {
