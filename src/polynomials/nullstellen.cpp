@@ -23,31 +23,18 @@ namespace tabulon {
 
 namespace {
 
-// The value of a polynomial exactly as Polynom::wert computes it. Horner's scheme over all nine
-// coefficients starts with zeros where the top coefficients are +0.0, and for a finite x it keeps
-// +0.0 there (x * +0.0 is a zero, and a zero plus +0.0 is +0.0), so it may start just above the
-// highest coefficient that is not +0.0. An infinite or NaN x takes all nine steps.
+// Polynom::wert at several points at once: Horner's scheme over all nine coefficients, the same
+// operations in the same order for every point. The points are independent, so their chains
+// overlap; a fixed number of them lets the compiler keep them in vector registers.
 class Auswertung {
 public:
-    explicit Auswertung(const Polynom& p) : k_(p.koeff()) {
-        std::int64_t oben = maxGrad;
-        while (oben >= 0 && std::bit_cast<std::uint64_t>(k_[static_cast<std::size_t>(oben)]) == 0) {
-            --oben;
-        }
-        start_ = std::min<std::int64_t>(oben, maxGrad - 1);
-    }
+    explicit Auswertung(const Polynom& p) : k_(p.koeff()) {}
 
-    // Values at x[0 ... n); the lanes are independent, so their chains overlap. A fixed number
-    // of lanes lets the compiler keep them in vector registers.
     template <std::size_t N> void werte(const double* x, double* v) const {
-        bool endlich = true;
-        for (std::size_t l = 0; l < N; ++l) {
-            endlich = endlich && std::isfinite(x[l]);
-        }
-        const std::int64_t start = endlich ? start_ : maxGrad - 1;
         std::array<double, N> w;
-        w.fill(k_[static_cast<std::size_t>(start + 1)]);
-        for (std::int64_t i = start; i >= 0; --i) {
+        w.fill(k_[maxGrad]);
+#pragma GCC unroll 8
+        for (std::int64_t i = maxGrad - 1; i >= 0; --i) {
             const double k = k_[static_cast<std::size_t>(i)];
             for (std::size_t l = 0; l < N; ++l) {
                 w[l] = x[l] * w[l] + k;
@@ -58,7 +45,6 @@ public:
 
 private:
     Polynom::Koeffizienten k_;
-    std::int64_t start_;
 };
 
 bool gleicheBits(double x, double y) {
@@ -73,34 +59,33 @@ constexpr std::size_t spuren = 8;
 // on its own, and writes its root to wurzel[l].
 template <std::size_t N>
 void bisektionen(const Auswertung& fu, const double* von, const double* bis, double* wurzel) {
-    constexpr std::size_t spuren = N;
-    constexpr std::size_t anzahl = N;
-    std::array<double, spuren> a{};
-    std::array<double, spuren> b{};
-    std::array<double, spuren> m{};
-    std::array<double, spuren> v{};
-    std::array<double, spuren> vonWert{};
-    std::array<int, spuren> schritte{};
-    std::array<bool, spuren> laeuft{};
-    std::copy(von, von + anzahl, a.begin());
-    std::copy(bis, bis + anzahl, b.begin());
+    std::array<double, N> a;
+    std::array<double, N> b;
+    std::array<double, N> m;
+    std::array<double, N> v;
+    std::array<double, N> vonWert;
+    std::array<int, N> schritte{};
+    std::array<bool, N> laeuft;
+    std::copy(von, von + N, a.begin());
+    std::copy(bis, bis + N, b.begin());
     // The sign is always compared with the value at the left end von, never at the moving a.
-    fu.werte<spuren>(a.data(), vonWert.data());
+    fu.werte<N>(a.data(), vonWert.data());
     bool irgendeine = false;
-    for (std::size_t l = 0; l < anzahl; ++l) {
+    for (std::size_t l = 0; l < N; ++l) {
         laeuft[l] = std::fabs(b[l] - a[l]) > 1e-15;
         irgendeine = irgendeine || laeuft[l];
     }
     while (irgendeine) {
-        for (std::size_t l = 0; l < spuren; ++l) {
+        for (std::size_t l = 0; l < N; ++l) {
             m[l] = (a[l] + b[l]) / 2;
         }
-        fu.werte<spuren>(m.data(), v.data());
+        fu.werte<N>(m.data(), v.data());
         irgendeine = false;
-        for (std::size_t l = 0; l < spuren; ++l) {
+        for (std::size_t l = 0; l < N; ++l) {
             const bool links = v[l] * vonWert[l] < 0;
             const double neuA = links ? a[l] : m[l];
             const double neuB = links ? m[l] : b[l];
+            // Once a halving leaves the interval as it was, so will every later one.
             const bool bewegt = !gleicheBits(neuA, a[l]) || !gleicheBits(neuB, b[l]);
             if (laeuft[l]) {
                 a[l] = neuA;
@@ -111,7 +96,7 @@ void bisektionen(const Auswertung& fu, const double* von, const double* bis, dou
             irgendeine = irgendeine || laeuft[l];
         }
     }
-    for (std::size_t l = 0; l < anzahl; ++l) {
+    for (std::size_t l = 0; l < N; ++l) {
         wurzel[l] = korr((a[l] + b[l]) / 2);
     }
 }
