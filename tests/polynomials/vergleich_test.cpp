@@ -8,6 +8,7 @@
 #include "referenz/charpoly_laplace.h"
 #include "textmatrix/zahltext.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <gtest/gtest.h>
@@ -52,7 +53,7 @@ private:
     std::uint64_t zustand_;
 };
 
-enum class Art { ganz, dezimal, winzig, riesig, singulaer, duenn };
+enum class Art { ganz, dezimal, winzig, riesig, singulaer, duenn, unendlich };
 
 Matrix zufallsMatrix(std::int64_t n, Art art, Zufall& z) {
     Matrix a(n, n);
@@ -75,6 +76,14 @@ Matrix zufallsMatrix(std::int64_t n, Art art, Zufall& z) {
         case Art::duenn:
             x = z.naechste() % 3 == 0 ? z.ganz(-4, 4) : 0.0;
             break;
+        case Art::unendlich: {
+            // Products overflow, inf - inf gives NaN coefficients and NaN root bounds.
+            const double sonder[] = {std::numeric_limits<double>::infinity(),
+                                     -std::numeric_limits<double>::infinity(),
+                                     std::numeric_limits<double>::quiet_NaN(), 1e308, -1e300};
+            x = z.naechste() % 4 == 0 ? sonder[z.naechste() % 5] : z.ganz(-9, 9);
+            break;
+        }
         }
     }
     if (art == Art::singulaer && n > 1) {
@@ -88,8 +97,8 @@ Matrix zufallsMatrix(std::int64_t n, Art art, Zufall& z) {
 }
 
 TEST(Vergleich, TabelleUndNullstellenBitgleichMitDerEinfachenEntwicklung) {
-    const Art arten[] = {Art::ganz,   Art::dezimal,   Art::winzig,
-                         Art::riesig, Art::singulaer, Art::duenn};
+    const Art arten[] = {Art::ganz,      Art::dezimal, Art::winzig,   Art::riesig,
+                         Art::singulaer, Art::duenn,   Art::unendlich};
     Zufall z(20261123);
     for (std::int64_t n = 1; n <= 8; ++n) {
         // The plain expansion of an 8 x 8 matrix visits 8! leaves: few of those.
@@ -108,6 +117,71 @@ TEST(Vergleich, TabelleUndNullstellenBitgleichMitDerEinfachenEntwicklung) {
                     << wo << ": " << text(ew) << "statt " << text(wurzeln);
             }
         }
+    }
+}
+
+// A text matrix wider than tall is expanded on its left square block, as the plain recursion does.
+TEST(Vergleich, BreiteTextmatrixUndLeereFaelle) {
+    SMatrix s(3, 4);
+    s.grid = {"x1.5", "2", "-3", "99", "4", "x-5", "6.25", "99", "7", "8", "x9", "99"};
+    EXPECT_TRUE(bitgleich(sMatrix2Polynom(s), referenz::laplacePolynom(s)));
+    EXPECT_EQ(sMatrix2Polynom(SMatrix()).grad(), -1);
+    EXPECT_EQ(sMatrix2Polynom(SMatrix(3, 2)).grad(), -1);
+}
+
+// Bisection on its own, where the early stop matters: roots too large for the interval to shrink
+// below 1e-15, reversed, infinite and NaN ends, a root hit by the first midpoint.
+TEST(Vergleich, BisektionEndetWieDieTausendSchritte) {
+    Polynom::Koeffizienten k{};
+    const double inf = std::numeric_limits<double>::infinity();
+    struct Fall {
+        std::vector<double> koeff;
+        double von;
+        double bis;
+    };
+    const Fall faelle[] = {
+        {{-1e6, 1}, 0, 2e6},
+        {{-1e6, 1}, 2e6, 0},
+        {{-0.5, 1}, 0, 1},
+        {{-1e-17, 1}, -1, 1},
+        {{-3e15, 0, 1}, 0, 1e8},
+        {{1, -1e300}, -1e308, 1.7e308},
+        {{-2, 0, 1}, -inf, inf},
+        {{-2, 0, 1}, 0, std::numeric_limits<double>::quiet_NaN()},
+        {{5, -4, 0, 0, 0, 0, 0, 0, 1e-16}, -1e3, 1e3},
+    };
+    for (const Fall& fall : faelle) {
+        k.fill(0.0);
+        std::copy(fall.koeff.begin(), fall.koeff.end(), k.begin());
+        const Polynom p(k);
+        const double schnell = findeNullst(p, fall.von, fall.bis);
+        const double einfach = referenz::bisektion(p, fall.von, fall.bis);
+        EXPECT_TRUE(bitgleich({schnell}, {einfach}))
+            << p.string() << " von " << fall.von << ": " << schnell << " statt " << einfach;
+    }
+}
+
+// The root finder on polynomials that no 8 x 8 matrix makes: many pieces at a level, multiple
+// roots, coefficients of very different size.
+TEST(Vergleich, NullstellenZufaelligerPolynome) {
+    Zufall z(4711);
+    for (int fall = 0; fall < 400; ++fall) {
+        Polynom p(Polynom::Koeffizienten{1.0});
+        const std::uint64_t grad = 3 + z.naechste() % 6;
+        for (std::uint64_t i = 0; i < grad; ++i) {
+            // Roots from a small set repeat; the scale spreads the coefficients.
+            Polynom::Koeffizienten linear{};
+            linear[0] = -z.ganz(-6, 6) * (fall % 3 == 0 ? 1e3 : (fall % 3 == 1 ? 0.37 : 1.0));
+            linear[1] = 1.0;
+            p = referenz::produkt(p, Polynom(linear));
+        }
+        if (fall % 5 == 0) {
+            Polynom::Koeffizienten schief = p.koeff();
+            schief[0] += z.ganz(-9, 9) * 1e-3;
+            p = Polynom(schief);
+        }
+        EXPECT_TRUE(bitgleich(nullstMenge(p), referenz::nullstellen(p)))
+            << "Fall " << fall << ": " << p.string();
     }
 }
 
