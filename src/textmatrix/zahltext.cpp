@@ -2,15 +2,16 @@
 
 #include "textmatrix/liste.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <climits>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <locale.h>
-#include <utility>
 
 namespace tabulon {
 
@@ -83,26 +84,30 @@ KurzZiffern kuerzesteZiffern(double x) {
     char puffer[32];
     const char* ende =
         std::to_chars(puffer, puffer + sizeof puffer, x, std::chars_format::scientific).ptr;
-    // The layout is "-d.ddde-XX": an optional sign, one digit, an optional point and more
-    // digits, then 'e', a sign and two or three digits.
+    // The layout is "-d.ddde-XX": an optional sign, one digit, an optional point and up to 16
+    // more digits, then 'e', a sign and two or three digits. The runs are copied with memcpy:
+    // stores through char pointers would make the compiler reload every counter.
     KurzZiffern k;
     const char* p = puffer;
-    if (*p == '-') {
-        k.negativ = true;
-        ++p;
+    k.negativ = *p == '-';
+    p += k.negativ ? 1 : 0;
+    const char* e = ende - 4;
+    while (*e != 'e') {
+        --e;
     }
-    for (; *p != 'e'; ++p) {
-        if (*p != '.') {
-            k.ziffern[k.anzahl++] = *p;
-        }
+    k.ziffern[0] = p[0];
+    int anzahl = 1;
+    if (p[1] == '.') {
+        const auto rest = static_cast<std::size_t>(e - (p + 2));
+        std::memcpy(k.ziffern + 1, p + 2, rest);
+        anzahl += static_cast<int>(rest);
     }
-    ++p;
-    const bool expNegativ = *p == '-';
-    int e = 0;
-    for (++p; p != ende; ++p) {
-        e = e * 10 + (*p - '0');
+    int betrag = 0;
+    for (const char* q = e + 2; q != ende; ++q) {
+        betrag = betrag * 10 + (*q - '0');
     }
-    k.exponent = expNegativ ? -e : e;
+    k.anzahl = anzahl;
+    k.exponent = e[1] == '-' ? -betrag : betrag;
     return k;
 }
 
@@ -114,41 +119,34 @@ char* gLayout(char* aus, bool negativ, const char* ziffern, int anzahl, int expo
     while (anzahl > 1 && ziffern[anzahl - 1] == '0') {
         --anzahl;
     }
+    const auto n = static_cast<std::size_t>(anzahl);
     if (negativ) {
         *aus++ = '-';
     }
     if (exponent >= -4 && exponent < 15) {
         if (exponent < 0) {
-            *aus++ = '0';
-            *aus++ = '.';
-            for (int i = -1; i > exponent; --i) {
-                *aus++ = '0';
-            }
-            for (int i = 0; i < anzahl; ++i) {
-                *aus++ = ziffern[i];
-            }
-            return aus;
+            const auto nullen = static_cast<std::size_t>(-exponent - 1);
+            std::memcpy(aus, "0.0000", 2 + nullen);
+            std::memcpy(aus + 2 + nullen, ziffern, n);
+            return aus + 2 + nullen + n;
         }
-        const int ganz = exponent + 1;
-        for (int i = 0; i < ganz; ++i) {
-            *aus++ = i < anzahl ? ziffern[i] : '0';
+        const auto ganz = static_cast<std::size_t>(exponent + 1);
+        if (n <= ganz) {
+            std::memcpy(aus, ziffern, n);
+            std::memset(aus + n, '0', ganz - n);
+            std::memcpy(aus + ganz, ".0", 2);
+            return aus + ganz + 2;
         }
-        *aus++ = '.';
-        if (anzahl <= ganz) {
-            *aus++ = '0';
-            return aus;
-        }
-        for (int i = ganz; i < anzahl; ++i) {
-            *aus++ = ziffern[i];
-        }
-        return aus;
+        std::memcpy(aus, ziffern, ganz);
+        aus[ganz] = '.';
+        std::memcpy(aus + ganz + 1, ziffern + ganz, n - ganz);
+        return aus + n + 1;
     }
     *aus++ = ziffern[0];
-    if (anzahl > 1) {
+    if (n > 1) {
         *aus++ = '.';
-        for (int i = 1; i < anzahl; ++i) {
-            *aus++ = ziffern[i];
-        }
+        std::memcpy(aus, ziffern + 1, n - 1);
+        aus += n - 1;
     }
     *aus++ = 'e';
     *aus++ = exponent < 0 ? '-' : '+';
@@ -163,28 +161,26 @@ char* gLayout(char* aus, bool negativ, const char* ziffern, int anzahl, int expo
 
 // %.15g from the shortest round-trip digits D, or nothing when they cannot decide it.
 //
-// Let x be a normal double and D its shortest digits (at most 17), d1 the first digit and E the
-// decimal exponent of D, u = 10^(E-14) one unit of the 15th digit. D reads back as x, so
-// |x - D| <= ulp(x)/2 <= 2^-53 |x|, and |x| <= |D| / (1 - 2^-53) < (d1 + 1) 10^E / (1 - 2^-53).
-// Hence |x - D| / u < (d1 + 1) * 10^14 * 2^-53 / (1 - 2^-53) < 0.0111023 (d1 + 1) <= 0.112.
+// Let x be a normal double, x = f 2^k with 1 <= f < 2, and D its shortest digits (at most 17)
+// with decimal exponent E; c = 10^(E-16) is one hundredth of a unit of the 15th digit. D reads
+// back as x, so |x - D| <= ulp(x)/2 = 2^(k-53) = |x| 2^-53 / f.
 // x and D lie in the same decade: a power of ten between them would itself read back as x and
 // be shorter than D (unless D is that power of ten, which has one digit).
-// - At most 15 digits: D lies on the grid of u and x is less than u/2 away from it, so rounding
-//   x to 15 digits gives D, with D's exponent.
-// - 16 or 17 digits: write D = (T + R/100) u with T the first 15 digits and R the next two
-//   (0..99). x/u lies within 0.0111023 (d1 + 1) of T + R/100, so when
-//   |R - 50| > 1.12 (d1 + 1) the exact x is on the same side of T + 1/2 as D and rounds to T
-//   (R < 50) or T + 1 (R > 50); no tie is possible. Otherwise (R near 50, which includes every
-//   exact tie such as 0.5 units) the caller asks the C library.
-// Zero is "0" or "-0" plus ".0". Subnormals have a larger relative ulp, and infinities and NaN
-// no digits: they go to the C library.
-std::optional<std::string> zahlTextSchnell(double x) {
-    if (x == 0.0) {
-        return std::string(std::signbit(x) ? "-0.0" : "0.0");
-    }
+// - At most 15 digits: D lies on the grid of 100c and |x - D| <= |x| 2^-53 < 10^(E+1) 2^-53
+//   = 11.2 c, less than half of 100c, so rounding x to 15 digits gives D, with D's exponent.
+// - 16 or 17 digits: write D = (100 T + R) c with T the first 15 digits and R the next two
+//   (0..99). With m = d1.d2d3 + 0.01 >= |D| / 10^E and |x| <= |D| (1 + 2^-52),
+//   |x - D| / c <= m 10^16 2^-53 (1 + 2^-52) / f < m 1.1102231 / f =: H.
+//   When |R - 50| > H, x/c lies on the same side of 100 T + 50 as D/c, and x rounds to T
+//   (R < 50) or to T + 1 (R > 50); no tie is possible. Otherwise (R near 50, which includes
+//   every exact tie such as 123456789012345.5) the exact digits come from to_chars with a
+//   precision, which the C++ standard defines as printf's %.15g.
+// The margin H is computed in double; its relative error (below 1e-15) is far inside the
+// difference between 1.1102230246... and the 1.1102231 used.
+bool zahlTextKurz(double x, char*& ende, char* puffer) {
     const double betrag = std::fabs(x);
     if (!(betrag >= std::numeric_limits<double>::min()) || std::isinf(x)) {
-        return std::nullopt;
+        return false;
     }
     KurzZiffern k = kuerzesteZiffern(x);
     int exponent = k.exponent;
@@ -192,10 +188,14 @@ std::optional<std::string> zahlTextSchnell(double x) {
         const int r16 = k.ziffern[15] - '0';
         const int r17 = k.anzahl > 16 ? k.ziffern[16] - '0' : 0;
         const int r = r16 * 10 + r17;
-        const int d1 = k.ziffern[0] - '0';
+        const int fuehrend = (k.ziffern[0] - '0') * 100 + (k.ziffern[1] - '0') * 10 +
+                             (k.ziffern[2] - '0') + 1; // m in hundredths
+        int k2 = 0;
+        const double f = 2.0 * std::frexp(betrag, &k2);
+        const double h = static_cast<double>(fuehrend) * 0.011102231 / f;
         const int abstand = r >= 50 ? r - 50 : 50 - r;
-        if (100 * abstand <= 112 * (d1 + 1)) {
-            return std::nullopt;
+        if (static_cast<double>(abstand) <= h) {
+            return false;
         }
         k.anzahl = 15;
         if (r > 50) {
@@ -207,16 +207,15 @@ std::optional<std::string> zahlTextSchnell(double x) {
             if (i >= 0) {
                 ++k.ziffern[i];
             } else {
-                // 999999999999999|5x rounds up to the next power of ten.
+                // 999999999999999|7x rounds up to the next power of ten.
                 k.ziffern[0] = '1';
                 k.anzahl = 1;
                 ++exponent;
             }
         }
     }
-    char puffer[32];
-    const char* ende = gLayout(puffer, k.negativ, k.ziffern, k.anzahl, exponent);
-    return std::string(puffer, static_cast<std::size_t>(ende - puffer));
+    ende = gLayout(puffer, k.negativ, k.ziffern, k.anzahl, exponent);
+    return true;
 }
 
 // The literal forms from_chars and strtod read alike: an optional '-', digits with an optional
@@ -286,19 +285,6 @@ std::optional<double> text2ZahlSchnell(std::string_view text) {
     return wert;
 }
 
-// A NaN is written "nan" whatever its sign bit: x86 produces 0/0 with the sign set, and the
-// C library would print that as "-nan", which is not a text the system shows.
-std::string mitPunktNull(double x, const char* format) {
-    if (std::isnan(x)) {
-        return "nan";
-    }
-    std::string t = cFormat(format, x);
-    if (t.find_first_of(".en") == std::string::npos) {
-        t += ".0";
-    }
-    return t;
-}
-
 // to_chars with a precision gives printf's digits for the same format in the C locale; only
 // its output buffer may be too small, and then snprintf writes the text.
 std::string mitPraezision(double x, std::chars_format form, int praezision,
@@ -329,11 +315,26 @@ std::optional<double> text2Zahl(std::string_view text) {
     return g.wert;
 }
 
+// A NaN is written "nan" whatever its sign bit: x86 produces 0/0 with the sign set, and the
+// C library would print that as "-nan", which is not a text the system shows.
 std::string zahlText(double x) {
-    if (std::optional<std::string> schnell = zahlTextSchnell(x)) {
-        return std::move(*schnell);
+    if (x == 0.0) {
+        return std::signbit(x) ? "-0.0" : "0.0";
     }
-    return mitPunktNull(x, "%.15g");
+    if (std::isnan(x)) {
+        return "nan";
+    }
+    char puffer[32];
+    char* ende = nullptr;
+    if (!zahlTextKurz(x, ende, puffer)) {
+        // Near a tie, subnormals and infinities: the exact digits, with the ".0" rule.
+        ende = std::to_chars(puffer, puffer + sizeof puffer, x, std::chars_format::general, 15).ptr;
+        if (std::find_first_of(puffer, ende, ".en", ".en" + 3) == ende) {
+            std::memcpy(ende, ".0", 2);
+            ende += 2;
+        }
+    }
+    return std::string(puffer, static_cast<std::size_t>(ende - puffer));
 }
 
 std::string ganzText(std::int64_t n) {
