@@ -82,9 +82,10 @@ struct Faktor {
     std::int64_t grad;
 };
 
-// The highest power that survives korr, as Polynom's constructor decides it.
-std::int64_t gradVon(const Koeffizienten& k) {
-    for (std::int64_t i = maxGrad; i >= 0; --i) {
+// The highest power that survives korr, as Polynom's constructor decides it, when every
+// coefficient above `oben` is known to be zero.
+std::int64_t gradVon(const Koeffizienten& k, std::int64_t oben = maxGrad) {
+    for (std::int64_t i = oben; i >= 0; --i) {
         if (!(std::fabs(k[static_cast<std::size_t>(i)]) < 1e-15)) {
             return i;
         }
@@ -102,17 +103,18 @@ std::int64_t gradVon(const Koeffizienten& k) {
 // because neither changes a bit of the result: d starts as +0.0 and is only ever a sum, so it is
 // never -0.0, and d + y then equals d + z whenever y and z differ at most in the sign of a zero
 // (x + 0.0 and x only differ there, for every x but -0.0 itself, and for a NaN not at all).
-void addiereProdukt(Koeffizienten& d, const Faktor& f, const Eintrag& m) {
+// Returns the highest place the product can reach, -1 when nothing was added.
+std::int64_t addiereProdukt(Koeffizienten& d, const Faktor& f, const Eintrag& m) {
     const std::int64_t gm = m.grad;
     if (f.grad < 0 || gm < 0 || f.grad + gm > maxGrad) {
-        return;
+        return -1;
     }
     const auto g = static_cast<std::size_t>(gm);
     if (f.grad == 0) {
         for (std::size_t j = 0; j <= g; ++j) {
             d[j] = d[j] + f.k0 * m.k[j];
         }
-        return;
+        return gm;
     }
     Koeffizienten t;
     t[0] = f.k0 * m.k[0];
@@ -123,6 +125,7 @@ void addiereProdukt(Koeffizienten& d, const Faktor& f, const Eintrag& m) {
     for (std::size_t j = 0; j <= g + 1; ++j) {
         d[j] = d[j] + t[j];
     }
+    return gm + 1;
 }
 
 // The expansion of an n x n eigen text matrix with one polynomial per column set. A minor that
@@ -147,7 +150,7 @@ public:
                     for (std::int64_t g = 0; g <= e.grad(); ++g) {
                         t[static_cast<std::size_t>(g)] = vorzeichen * e.koeff(g) + 0.0;
                     }
-                    faktor_[v][i * n + j] = {t[0], t[1], gradVon(t)};
+                    faktor_[v][i * n + j] = {t[0], t[1], gradVon(t, 1)};
                 }
                 if (i == n - 1) {
                     tabelle_[std::size_t{1} << j] = {e.koeff(), e.grad()};
@@ -172,14 +175,16 @@ private:
     void minor(std::uint32_t spalten, std::int64_t k) {
         const std::int64_t zeile = n_ - k;
         Koeffizienten d{};
+        std::int64_t oben = -1; // above this place d still holds the +0.0 it started with
         std::size_t j = 0;
         for (std::uint32_t rest = spalten; rest != 0; rest &= rest - 1, ++j) {
             const int spalte = std::countr_zero(rest);
             const std::uint32_t ohne = spalten & ~(std::uint32_t{1} << spalte);
             // The degrees of the partial sums are never looked at; only the full sum's is decided.
-            addiereProdukt(d, faktor_[j % 2][zeile * n_ + spalte], tabelle_[ohne]);
+            oben = std::max(oben,
+                            addiereProdukt(d, faktor_[j % 2][zeile * n_ + spalte], tabelle_[ohne]));
         }
-        tabelle_[spalten] = {d, gradVon(d)};
+        tabelle_[spalten] = {d, gradVon(d, oben)};
     }
 
     std::int64_t n_;
