@@ -126,6 +126,20 @@ TEST(Vergleich, BreiteTextmatrixUndLeereFaelle) {
     s.grid = {"x1.5", "2", "-3", "99", "4", "x-5", "6.25", "99", "7", "8", "x9", "99"};
     EXPECT_TRUE(bitgleich(sMatrix2Polynom(s), referenz::laplacePolynom(s)));
     EXPECT_EQ(sMatrix2Polynom(SMatrix()).grad(), -1);
+    // Larger than the tableau the table moves to the heap. Without x the determinant of
+    // diag(2, ..., 2) is 2^n; with x on the diagonal the degree would pass 8 and the product
+    // gives the zero polynomial.
+    for (const char* diagonale : {"2.0", "x2.0"}) {
+        SMatrix gross(10, 10);
+        for (std::int64_t i = 0; i < 10; ++i) {
+            for (std::int64_t j = 0; j < 10; ++j) {
+                gross(i, j) = i == j ? diagonale : "0.0";
+            }
+        }
+        const Polynom p = sMatrix2Polynom(gross);
+        EXPECT_EQ(p.grad(), diagonale[0] == 'x' ? -1 : 0);
+        EXPECT_EQ(p.koeff(0), diagonale[0] == 'x' ? 0.0 : 1024.0);
+    }
     EXPECT_EQ(sMatrix2Polynom(SMatrix(3, 2)).grad(), -1);
 }
 
