@@ -18,23 +18,39 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace tabulon {
 
 namespace {
 
-// Polynom::wert at several points at once: Horner's scheme over all nine coefficients, the same
-// operations in the same order for every point. The points are independent, so their chains
-// overlap; a fixed number of them lets the compiler keep them in vector registers.
+// Polynom::wert at several points at once: Horner's scheme, the same operations in the same
+// order for every point. The points are independent, so their chains overlap; a fixed number of
+// them lets the compiler keep them in vector registers.
+//
+// Horner over all nine coefficients carries +0.0 through the top coefficients that are +0.0:
+// for a finite x, x * +0.0 is a zero and a zero plus +0.0 is +0.0. So when every coefficient
+// above S is +0.0, the scheme may start at S with +0.0 in hand, for finite points, and deliver
+// the same bits with fewer steps; S = maxGrad is the full scheme.
 class Auswertung {
 public:
-    explicit Auswertung(const Polynom& p) : k_(p.koeff()) {}
+    explicit Auswertung(const Polynom& p) : k_(p.koeff()) {
+        oben_ = maxGrad;
+        while (oben_ > 0 &&
+               std::bit_cast<std::uint64_t>(k_[static_cast<std::size_t>(oben_)]) == 0) {
+            --oben_;
+        }
+    }
 
-    template <std::size_t N> void werte(const double* x, double* v) const {
+    // The highest coefficient that is not +0.0 (0 when there is none).
+    std::int64_t oben() const { return oben_; }
+
+    template <std::size_t N, std::int64_t S = maxGrad>
+    void werte(const double* x, double* v) const {
         std::array<double, N> w;
-        w.fill(k_[maxGrad]);
+        w.fill(S == maxGrad ? k_[maxGrad] : 0.0);
 #pragma GCC unroll 8
-        for (std::int64_t i = maxGrad - 1; i >= 0; --i) {
+        for (std::int64_t i = std::min(S, maxGrad - 1); i >= 0; --i) {
             const double k = k_[static_cast<std::size_t>(i)];
             for (std::size_t l = 0; l < N; ++l) {
                 w[l] = x[l] * w[l] + k;
@@ -45,6 +61,7 @@ public:
 
 private:
     Polynom::Koeffizienten k_;
+    std::int64_t oben_;
 };
 
 bool gleicheBits(double x, double y) {
@@ -57,7 +74,7 @@ constexpr std::size_t spuren = 8;
 
 // N bisections in lock step: lane l searches from von[l] to bis[l], exactly as findeNullst does
 // on its own, and writes its root to wurzel[l].
-template <std::size_t N>
+template <std::size_t N, std::int64_t S>
 void bisektionen(const Auswertung& fu, const double* von, const double* bis, double* wurzel) {
     std::array<double, N> a;
     std::array<double, N> b;
@@ -69,7 +86,7 @@ void bisektionen(const Auswertung& fu, const double* von, const double* bis, dou
     std::copy(von, von + N, a.begin());
     std::copy(bis, bis + N, b.begin());
     // The sign is always compared with the value at the left end von, never at the moving a.
-    fu.werte<N>(a.data(), vonWert.data());
+    fu.werte<N, S>(a.data(), vonWert.data());
     bool irgendeine = false;
     for (std::size_t l = 0; l < N; ++l) {
         laeuft[l] = std::fabs(b[l] - a[l]) > 1e-15;
@@ -79,7 +96,7 @@ void bisektionen(const Auswertung& fu, const double* von, const double* bis, dou
         for (std::size_t l = 0; l < N; ++l) {
             m[l] = (a[l] + b[l]) / 2;
         }
-        fu.werte<N>(m.data(), v.data());
+        fu.werte<N, S>(m.data(), v.data());
         irgendeine = false;
         for (std::size_t l = 0; l < N; ++l) {
             const bool links = v[l] * vonWert[l] < 0;
@@ -101,26 +118,55 @@ void bisektionen(const Auswertung& fu, const double* von, const double* bis, dou
     }
 }
 
-// Up to `spuren` bisections side by side.
-void bisektionen(const Auswertung& fu, const double* von, const double* bis, double* wurzel,
-                 std::size_t anzahl) {
+template <std::int64_t S>
+void bisektionenAb(const Auswertung& fu, const double* von, const double* bis, double* wurzel,
+                   std::size_t anzahl) {
     switch (anzahl) {
     case 1:
-        return bisektionen<1>(fu, von, bis, wurzel);
+        return bisektionen<1, S>(fu, von, bis, wurzel);
     case 2:
-        return bisektionen<2>(fu, von, bis, wurzel);
+        return bisektionen<2, S>(fu, von, bis, wurzel);
     case 3:
-        return bisektionen<3>(fu, von, bis, wurzel);
+        return bisektionen<3, S>(fu, von, bis, wurzel);
     case 4:
-        return bisektionen<4>(fu, von, bis, wurzel);
+        return bisektionen<4, S>(fu, von, bis, wurzel);
+    default: {
+        // Lanes beyond `anzahl` search nothing, from 0 to 0.
+        std::array<double, spuren> vonAlle{};
+        std::array<double, spuren> bisAlle{};
+        std::array<double, spuren> wurzelAlle{};
+        std::copy(von, von + anzahl, vonAlle.begin());
+        std::copy(bis, bis + anzahl, bisAlle.begin());
+        bisektionen<spuren, S>(fu, vonAlle.data(), bisAlle.data(), wurzelAlle.data());
+        std::copy(wurzelAlle.begin(), wurzelAlle.begin() + static_cast<std::ptrdiff_t>(anzahl),
+                  wurzel);
+    }
+    }
+}
+
+// Up to `spuren` bisections side by side. Every midpoint lies between the ends of its search,
+// so when no end exceeds half the largest double, no midpoint overflows and all are finite: the
+// short Horner scheme is then exact.
+void bisektionen(const Auswertung& fu, const double* von, const double* bis, double* wurzel,
+                 std::size_t anzahl) {
+    constexpr double grenze = std::numeric_limits<double>::max() / 2;
+    bool endlich = true;
+    for (std::size_t l = 0; l < anzahl; ++l) {
+        endlich = endlich && std::fabs(von[l]) <= grenze && std::fabs(bis[l]) <= grenze;
+    }
+    switch (endlich ? std::max<std::int64_t>(fu.oben(), 3) : maxGrad) {
+    case 3:
+        return bisektionenAb<3>(fu, von, bis, wurzel, anzahl);
+    case 4:
+        return bisektionenAb<4>(fu, von, bis, wurzel, anzahl);
     case 5:
-        return bisektionen<5>(fu, von, bis, wurzel);
+        return bisektionenAb<5>(fu, von, bis, wurzel, anzahl);
     case 6:
-        return bisektionen<6>(fu, von, bis, wurzel);
+        return bisektionenAb<6>(fu, von, bis, wurzel, anzahl);
     case 7:
-        return bisektionen<7>(fu, von, bis, wurzel);
+        return bisektionenAb<7>(fu, von, bis, wurzel, anzahl);
     default:
-        return bisektionen<8>(fu, von, bis, wurzel);
+        return bisektionenAb<maxGrad>(fu, von, bis, wurzel, anzahl);
     }
 }
 
