@@ -7,6 +7,7 @@
 #include <bit>
 #include <cmath>
 #include <memory>
+#include <string_view>
 
 namespace tabulon {
 
@@ -24,15 +25,22 @@ SMatrix m2EwSmatrix(const Matrix& a) {
 }
 
 Polynom elString2Polynom(const std::string& quelle) {
-    std::string rest;
-    rest.reserve(quelle.size());
+    // Every "x" is removed. m2EwSmatrix puts it in front, so the rest is then read in place.
+    std::string_view rest = quelle;
     bool mitX = false;
-    for (const char c : quelle) {
-        if (c == 'x') {
-            mitX = true;
-        } else {
-            rest.push_back(c);
+    if (!rest.empty() && rest.front() == 'x') {
+        mitX = true;
+        rest.remove_prefix(1);
+    }
+    std::string ohneX;
+    if (rest.find('x') != std::string_view::npos) {
+        mitX = true;
+        for (const char c : rest) {
+            if (c != 'x') {
+                ohneX.push_back(c);
+            }
         }
+        rest = ohneX;
     }
     // The texts of m2EwSmatrix always convert; anything else counts as 0, as everywhere in a
     // computation.

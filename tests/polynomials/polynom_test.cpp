@@ -122,6 +122,11 @@ TEST(CharPoly, TextmatrixDreiMalDreiUndNichtQuadratisch) {
     EXPECT_EQ(s.grid, (std::vector<std::string>{"x-3.5", "2.0", "0.333333333333333", "x1e-07"}));
     EXPECT_EQ(elString2Polynom("x-3.5"), poly({-3.5, -1}));
     EXPECT_EQ(elString2Polynom("unsinn"), poly({}));
+    // Every x is removed wherever it stands, once or more often.
+    EXPECT_EQ(elString2Polynom("x"), poly({0, -1}));
+    EXPECT_EQ(elString2Polynom("2.5x"), poly({2.5, -1}));
+    EXPECT_EQ(elString2Polynom("x1xe2x"), poly({100, -1}));
+    EXPECT_EQ(elString2Polynom("xx-0.0"), poly({-0.0, -1}));
 
     // The sign of each term of the expansion matters from 3 x 3 on; the leading coefficient is -1.
     const auto [p, ew] = eigenWerte(zeilen(3, {1, 2, 3, 4, 5, 6, 7, 8, 10}));
