@@ -17,7 +17,9 @@ namespace tabulon::bench {
 
 class StillePlattform : public Plattform {
 public:
-    void piep() override {}
+    int piepse = 0; // a beep means the benchmark measured a refusal
+
+    void piep() override { ++piepse; }
     int frage(const std::string&, const std::string&, const std::string&) override {
         return zweiterKnopf;
     }
