@@ -211,8 +211,8 @@ template <std::size_t N> struct Speicher {
 
 Polynom sMatrix2Polynom(const SMatrix& s) {
     const std::int64_t n = s.rows;
-    // Neither case is asked for by any caller: no rows has no determinant, and too few columns
-    // leave the expansion without entries.
+    // No caller asks for any of these: no rows has no determinant, too few columns leave the
+    // expansion without entries, and more rows would need a table of 2^n polynomials.
     if (n < 1 || s.columns < n || n > tabellenGrenze) {
         return Polynom();
     }
