@@ -86,7 +86,8 @@ std::string ziffern(std::mt19937_64& z, int anzahl) {
 
 // Random bit patterns (all exponents, subnormals, zeros, infinities, NaNs); short decimals
 // (k digits times a power of ten, the values matrices hold) with their next two neighbours; values
-// next to a tie of the 15-digit rounding (d.dddddddddddddd5 x 10^e), exact ties that printf rounds
+// next to a tie of the 15-digit rounding (d.dddddddddddddd5 x 10^e) or of the last decimal of
+// %.*f (ddd.dd5), exact ties that printf rounds
 // half to even (m + 0.5 for 15-digit m, 16-digit integers ending in 5) and integers around 2^53.
 TEST(ZahltextVergleich, TexteWieSnprintf) {
     std::mt19937_64 z(20261123);
@@ -104,10 +105,21 @@ TEST(ZahltextVergleich, TexteWieSnprintf) {
         v.texte(x, static_cast<int>(z() % 11));
         v.texte(-std::nextafter(x, 1e300));
         v.texte(std::nextafter(std::nextafter(x, 0.0), 0.0));
-        const std::string knapp = ganzText(static_cast<int>(1 + z() % 9)) + "." + ziffern(z, 14) +
-                                  (z() % 4 == 0 ? "49e" : "5e") +
-                                  ganzText(static_cast<int>(z() % 600) - 300);
+        const std::string knapp =
+            ganzText(static_cast<int>(1 + z() % 9)) + "." + ziffern(z, 14) +
+            (z() % 4 == 0 ? "49e" : "5e") +
+            ganzText(static_cast<int>(i % 2 == 0 ? z() % 24 : z() % 600) - (i % 2 == 0 ? 7 : 300));
         const double y = std::strtod(knapp.c_str(), nullptr);
+        // The same near the rounding position of %.*f.
+        const int stellen = static_cast<int>(z() % 11);
+        const double h =
+            std::strtod((ziffern(z, static_cast<int>(z() % 7)) + "." + ziffern(z, stellen) + "5" +
+                         ziffern(z, static_cast<int>(z() % 3)))
+                            .c_str(),
+                        nullptr);
+        v.texte(h, stellen);
+        v.texte(-std::nextafter(h, 0.0), stellen);
+        v.texte(std::nextafter(h, 1e300), stellen);
         v.texte(y);
         v.texte(std::nextafter(y, 0.0));
         v.texte(std::nextafter(y, 1e300));
