@@ -1,5 +1,6 @@
 #include "terms/parser.h"
 #include "textmatrix/liste.h"
+#include "textmatrix/zahltext.h"
 
 #include <iterator>
 #include <optional>
@@ -55,7 +56,7 @@ std::optional<std::string> ablegen(const std::pair<Matrix, bool>& wert) {
     if (!wert.second) {
         return std::nullopt;
     }
-    auto [name, ok] = einbuchten(wert.first.smatrix());
+    auto [name, ok] = einbuchten(texteVon(wert.first));
     if (!ok) {
         return std::nullopt;
     }
@@ -274,15 +275,37 @@ NamenErgebnis parsen(std::string_view kette) {
 }
 
 void tempNamenEntfernen(const std::string& behalten) {
+    // A few text matrices are enough: one evaluation of a typical term holds two or three
+    // temporaries at a time.
+    constexpr std::size_t vorratsGrenze = 8;
     auto& liste = listenZustand();
-    auto& temp = termZustand().tempNamen;
-    for (const auto& name : temp) {
+    auto& zustand = termZustand();
+    for (const auto& name : zustand.tempNamen) {
         if (name != behalten) {
-            liste.sMatrixListe.erase(name);
+            auto knoten = liste.sMatrixListe.extract(name);
+            if (!knoten.empty() && zustand.textVorrat.size() < vorratsGrenze) {
+                zustand.textVorrat.push_back(std::move(knoten.mapped()));
+            }
             liste.smNamen.insert(name);
         }
     }
-    temp.clear();
+    zustand.tempNamen.clear();
+}
+
+SMatrix texteVon(const Matrix& m) {
+    auto& vorrat = termZustand().textVorrat;
+    SMatrix s;
+    if (!vorrat.empty()) {
+        s = std::move(vorrat.back());
+        vorrat.pop_back();
+    }
+    s.rows = m.rows;
+    s.columns = m.columns;
+    s.grid.resize(m.grid.size());
+    for (std::size_t k = 0; k < m.grid.size(); ++k) {
+        s.grid[k] = zahlText(m.grid[k]);
+    }
+    return s;
 }
 
 } // namespace tabulon

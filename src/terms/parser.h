@@ -49,6 +49,9 @@ struct TermZustand {
     // are compared with the remembered ones, and only texts that differ are converted again.
     // Temporaries are read once and are not remembered.
     std::array<GelesenerOperand, 26> gelesen;
+    // The text matrices of removed temporaries, kept so that the next temporaries reuse their
+    // storage instead of allocating and freeing it in every step. Never read as values.
+    std::vector<SMatrix> textVorrat;
 };
 
 TermZustand& termZustand();
@@ -122,5 +125,8 @@ std::pair<Matrix, bool> hoch(const Matrix& mat, int n);
 // Removes every entry named in tempNamen from the list, except `behalten` (the target of the
 // n-fold command), and empties tempNamen.
 void tempNamenEntfernen(const std::string& behalten = "");
+
+// m.smatrix(), the standard texts, written into a text matrix from textVorrat when there is one.
+SMatrix texteVon(const Matrix& m);
 
 } // namespace tabulon

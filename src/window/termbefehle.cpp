@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 namespace tabulon {
 
@@ -26,14 +27,16 @@ std::int64_t anzahlLaeufe(const std::string& feld) {
 }
 
 // Stores the run's result under the target as the list stores any matrix. A temporary result
-// is removed right after the run, so its entry is handed over instead of copied; the result can
-// also be the target itself, or a matrix of the list that must stay as it is.
+// is removed right after the run, so its entry is swapped with the target's: the target gets the
+// result, and the target's old texts leave with the temporary, whose storage the next run
+// reuses. The result can also be the target itself, or a matrix of the list that must stay as
+// it is.
 void ergebnisUebernehmen(const std::string& ergebnis, const std::string& ziel) {
     auto& liste = listenZustand();
     if (ergebnis != ziel) {
         auto& quelle = liste.sMatrixListe.at(ergebnis);
         if (termZustand().tempNamen.contains(ergebnis)) {
-            liste.sMatrixListe.insert_or_assign(ziel, std::move(quelle));
+            std::swap(liste.sMatrixListe[ziel], quelle);
         } else {
             liste.sMatrixListe.insert_or_assign(ziel, quelle);
         }

@@ -167,6 +167,29 @@ TEST_F(Auswertung, GeaenderteOperandenWerdenNeuGelesen) {
     tempNamenEntfernen();
 }
 
+// Temporaries are written into the storage of removed ones; whatever size that storage had, the
+// texts must be exactly the standard texts of the value and nothing of the old matrix may stay.
+TEST_F(Auswertung, WiederverwendeteTexteSindDieStandardtexte) {
+    auto zahlen = [](std::int64_t zeilen, std::int64_t spalten, double start) {
+        Matrix m(zeilen, spalten);
+        const std::vector<double> werte{
+            -0.0, 0.1, 1.0 / 3.0, 1e-7, -2.5, 1e300, 2e-310, 123456789012345678.0, 7.0};
+        for (std::size_t k = 0; k < m.grid.size(); ++k) {
+            m.grid[k] = werte[(k + static_cast<std::size_t>(start)) % werte.size()] * (start + 1);
+        }
+        return m;
+    };
+    const std::vector<Matrix> folge{zahlen(3, 3, 0), zahlen(1, 2, 1), zahlen(2, 4, 2),
+                                    zahlen(8, 8, 3), Matrix(0, 0),    zahlen(2, 1, 5)};
+    for (const auto& m : folge) {
+        const auto [name, ok] = einbuchten(texteVon(m));
+        ASSERT_TRUE(ok);
+        EXPECT_EQ(listenZustand().sMatrixListe.at(name), m.smatrix()) << m.rows << "x" << m.columns;
+        tempNamenEntfernen();
+    }
+    EXPECT_FALSE(termZustand().textVorrat.empty());
+}
+
 // Temporaries take the first free letter in the order A ... Z; texts that are no letter name
 // never count, wherever they sort among the letters.
 TEST_F(Auswertung, FreierNameNurAusDenBuchstaben) {
