@@ -165,7 +165,8 @@ char* gLayout(char* aus, bool negativ, const char* ziffern, int anzahl, int expo
 // with decimal exponent E; c = 10^(E-16) is one hundredth of a unit of the 15th digit. D reads
 // back as x, so |x - D| <= ulp(x)/2 = 2^(k-53) = |x| 2^-53 / f.
 // x and D lie in the same decade: a power of ten between them would itself read back as x and
-// be shorter than D (unless D is that power of ten, which has one digit).
+// be shorter than D, unless D is that power of ten; then x lies below it by less than
+// 2^-53 10^E, a ninth of half a unit of the 15th digit in x's decade, and rounds up to D.
 // - At most 15 digits: D lies on the grid of 100c and |x - D| <= |x| 2^-53 < 10^(E+1) 2^-53
 //   = 11.2 c, less than half of 100c, so rounding x to 15 digits gives D, with D's exponent.
 // - 16 or 17 digits: write D = (100 T + R) c with T the first 15 digits and R the next two
@@ -269,11 +270,12 @@ bool naechsteGanzzahl(double x, int s, std::int64_t& n, double& y) {
 
 // %.15g for 1e-5 <= |x| < 1e15 from the integer N nearest to |x| 10^(14-E), E the decimal
 // exponent of |x|: those are the 15 significant digits printf rounds to. E is found from the
-// binary exponent k: E is floor(k log10 2) or one more, and fl(|x| 10^(14-E)) must then lie in
-// [1e14, 1e15). Both bounds are exact doubles and rounding is monotonic, so fl(y) < 1e15 means
-// y < 10^15, and fl(y) > 1e14 means y > 10^14. fl(y) == 1e14 allows y slightly below 10^14
-// (by at most 2^-7, half an ulp under 10^14): rounded in the decade below, 10 y is then within
-// 0.08 of 10^15 and gives the same text "1" with exponent E as N = 10^14 does.
+// binary exponent k (E is floor(k log10 2) or one more) and checked: fl(|x| 10^(14-E)) must
+// lie in [1e14, 1e15), else the next route decides. Both bounds are exact doubles and rounding is
+// monotonic, so fl(y) < 1e15 means y < 10^15, and fl(y) > 1e14 means y > 10^14. fl(y) == 1e14
+// allows y slightly below 10^14 (by at most 2^-7, half an ulp under 10^14): rounded in the decade
+// below, 10 y is then within 0.08 of 10^15 and gives the same text "1" with exponent E as N = 10^14
+// does.
 bool zahlTextGanzzahlig(double x, char*& ende, char* puffer) {
     const double betrag = std::fabs(x);
     if (!(betrag >= 1e-5 && betrag < 1e15)) {
