@@ -166,7 +166,7 @@ char* gLayout(char* aus, bool negativ, const char* ziffern, int anzahl, int expo
 // back as x, so |x - D| <= ulp(x)/2 = 2^(k-53) = |x| 2^-53 / f.
 // x and D lie in the same decade: a power of ten between them would itself read back as x and
 // be shorter than D, unless D is that power of ten; then x lies below it by less than
-// 2^-53 10^E, a ninth of half a unit of the 15th digit in x's decade, and rounds up to D.
+// 2^-53 10^E, under a quarter of half a unit of the 15th digit in its decade, and rounds up to D.
 // - At most 15 digits: D lies on the grid of 100c and |x - D| <= |x| 2^-53 < 10^(E+1) 2^-53
 //   = 11.2 c, less than half of 100c, so rounding x to 15 digits gives D, with D's exponent.
 // - 16 or 17 digits: write D = (100 T + R) c with T the first 15 digits and R the next two
