@@ -303,7 +303,7 @@ SMatrix texteVon(const Matrix& m) {
     s.columns = m.columns;
     s.grid.resize(m.grid.size());
     for (std::size_t k = 0; k < m.grid.size(); ++k) {
-        s.grid[k] = zahlText(m.grid[k]);
+        zahlTextIn(s.grid[k], m.grid[k]);
     }
     return s;
 }

@@ -20,6 +20,10 @@ std::optional<double> text2Zahl(std::string_view text);
 // whatever its sign bit (the C library would print "-nan" for x86's 0/0).
 std::string zahlText(double x);
 
+// The same text written into `ziel`, whose storage is reused: a matrix of texts filled again
+// and again allocates nothing once its texts have grown.
+void zahlTextIn(std::string& ziel, double x);
+
 // The full-precision text: the same with 17 significant digits (0.1 -> "0.10000000000000001").
 std::string zahlTextVoll(double x);
 

@@ -128,7 +128,7 @@ void einbettenInEinAusMatrix(const Matrix& m) {
     const std::int64_t spalten = std::min<std::int64_t>(m.columns, 8);
     for (std::int64_t i = 0; i < zeilen; ++i) {
         for (std::int64_t j = 0; j < spalten; ++j) {
-            t.strEinAusMatrix(i, j) = zahlText(m(i, j));
+            zahlTextIn(t.strEinAusMatrix(i, j), m(i, j));
         }
     }
 }

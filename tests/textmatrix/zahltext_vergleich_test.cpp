@@ -36,6 +36,7 @@ template <typename... Args> std::string cDruck(const char* format, Args... args)
 struct Vergleich {
     std::size_t anzahl = 0;
     std::size_t fehler = 0;
+    std::string wiederbenutzt = "-1.23456789012345e-300";
 
     void gleich(const std::string& ist, const std::string& soll, const char* was, double x) {
         ++anzahl;
@@ -49,7 +50,11 @@ struct Vergleich {
             const std::string t = cDruck(format, x);
             return std::isnan(x) ? "nan" : t.find_first_of(".en") == t.npos ? t + ".0" : t;
         };
-        gleich(zahlText(x), mitPunktNull("%.15g"), "zahlText", x);
+        const std::string standard = mitPunktNull("%.15g");
+        gleich(zahlText(x), standard, "zahlText", x);
+        // Written over the previous input's text, as the term evaluation reuses its texts.
+        zahlTextIn(wiederbenutzt, x);
+        gleich(wiederbenutzt, standard, "zahlTextIn", x);
         gleich(zahlTextVoll(x), mitPunktNull("%.17g"), "zahlTextVoll", x);
         if (stellen >= 0) {
             gleich(festkomma(x, stellen), std::isnan(x) ? "nan" : cDruck("%.*f", stellen, x),
