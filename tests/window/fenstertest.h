@@ -1,6 +1,6 @@
 #pragma once
-// A test platform that records beeps, questions and the exit, answers questions from a queue and
-// hands out fixed random numbers; and a fixture that starts every test from a fresh process state.
+// A test platform that records beeps and questions, says no to every question and hands out
+// fixed random numbers; and a fixture that starts each test from a fresh process state.
 
 #include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
@@ -17,19 +17,13 @@ namespace tabulon {
 
 class TestPlattform : public Plattform {
 public:
-    std::vector<std::string> ereignisse; // "piep", "frage <message>", "ende <status>"
-    std::deque<int> antworten;           // results of the next questions; empty: zweiterKnopf
+    std::vector<std::string> ereignisse; // "piep", "frage <message>"
     std::deque<std::uint32_t> zufall;    // the next random numbers; empty: 0
 
     void piep() override { ereignisse.push_back("piep"); }
     int frage(const std::string& nachricht, const std::string&, const std::string&) override {
         ereignisse.push_back("frage " + nachricht);
-        if (antworten.empty()) {
-            return zweiterKnopf;
-        }
-        const int a = antworten.front();
-        antworten.pop_front();
-        return a;
+        return zweiterKnopf;
     }
     std::uint32_t zufallUnter(std::uint32_t grenze) override {
         if (zufall.empty()) {
@@ -39,16 +33,8 @@ public:
         zufall.pop_front();
         return z % grenze;
     }
-    void beenden(int status) override { ereignisse.push_back("ende " + ganzText(status)); }
+    void beenden(int) override {}
     std::optional<std::filesystem::path> dokumentenOrdner() override { return std::nullopt; }
-
-    int piepse() const {
-        int n = 0;
-        for (const auto& e : ereignisse) {
-            n += e == "piep";
-        }
-        return n;
-    }
 };
 
 class FensterTest : public ::testing::Test {
@@ -91,16 +77,20 @@ protected:
         return s;
     }
 
-    // Puts the rows into the list under the name, as a stored matrix.
-    static void speichere(const std::string& name,
-                          const std::vector<std::vector<std::string>>& zeilen) {
-        SMatrix m(static_cast<std::int64_t>(zeilen.size()),
-                  static_cast<std::int64_t>(zeilen[0].size()));
-        for (std::size_t i = 0; i < zeilen.size(); ++i) {
-            for (std::size_t j = 0; j < zeilen[i].size(); ++j) {
-                m(static_cast<std::int64_t>(i), static_cast<std::int64_t>(j)) = zeilen[i][j];
+    // Puts the matrix written as "a|b;c|d" into the list under the name.
+    static void speichere(const std::string& name, const std::string& text) {
+        std::int64_t zeilen = 1;
+        std::vector<std::string> eintraege{""};
+        for (const char c : text) {
+            if (c == ';' || c == '|') {
+                zeilen += c == ';';
+                eintraege.emplace_back();
+            } else {
+                eintraege.back() += c;
             }
         }
+        SMatrix m(zeilen, std::ssize(eintraege) / zeilen);
+        m.grid = std::move(eintraege);
         listenZustand().sMatrixListe[name] = m;
         listenZustand().smNamen.erase(name);
     }
