@@ -1,124 +1,119 @@
 #include "terms/parser.h"
 #include "textmatrix/liste.h"
+#include "window/tableau.h"
+#include "window/viewcontroller.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <set>
+#include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace tabulon {
 namespace {
 
-void lege(const std::string& name, std::int64_t zeilen, std::int64_t spalten,
-          const std::vector<std::string>& eintraege) {
+SMatrix sm(std::int64_t zeilen, std::int64_t spalten, std::vector<std::string> eintraege) {
     SMatrix m(zeilen, spalten);
-    m.grid = eintraege;
+    m.grid = std::move(eintraege);
+    return m;
+}
+
+void lege(const std::string& name, const SMatrix& m) {
     listenZustand().sMatrixListe[name] = m;
     listenZustand().smNamen.erase(name);
 }
 
 class Auswertung : public ::testing::Test {
 protected:
-    void SetUp() override {
+    void SetUp() override { neu(); }
+    void TearDown() override { neu(); }
+    static void neu() {
         listenZustandZuruecksetzen();
         termZustandZuruecksetzen();
+        tableauZustandZuruecksetzen();
+        protokollZustandZuruecksetzen();
     }
-    void TearDown() override { SetUp(); }
-    // 1 x 1 values show by their temporaries which operands each step joined; Q is not square,
-    // N is singular. The temporaries start at D.
-    static void legeVorrat() {
-        lege("A", 1, 1, {"2"});
-        lege("B", 1, 1, {"3"});
-        lege("C", 1, 1, {"5"});
-        lege("N", 1, 1, {"0"});
-        lege("Q", 2, 3, {"1", "2", "3", "4", "5", "6"});
+};
+
+// The temporaries as "name=first entry" in the order of their names.
+std::string temporaere() {
+    std::string text;
+    for (const auto& name : termZustand().tempNamen) {
+        text += name + "=" + listenZustand().sMatrixListe.at(name).grid.at(0) + " ";
     }
-    // After the clean-up the list must be exactly as before the evaluation.
-    static void erwarteAufgeraeumt(const ListenZustand& vorher) {
+    return text;
+}
+
+// Bracket cores innermost and rightmost first, then powers, products, minus signs and sums, each
+// stage from the right: "A-B-C" is A + ((-B) + (-C)), "A-B*C" is A + (-(B*C)). A failure gives
+// "Fehler" and appends its messages to what the buffer held, except the syntax message, which
+// replaces it; in "A*Q*Q" Q*Q fails first, so the message stands only once. Either way the
+// clean-up leaves the list exactly as it was.
+TEST_F(Auswertung, VorrangTemporaereUndFehler) {
+    const std::string faelle[][4] = {
+        // term, result, temporaries, messages
+        {"(A)", "A", "", "alt"},
+        {"A-B-C", "G", "D=-5.0 E=-3.0 F=-8.0 G=-6.0 ", "alt"},
+        {"A-B*C", "F", "D=15.0 E=-15.0 F=-13.0 ", "alt"},
+        {"A*B*C", "E", "D=15.0 E=30.0 ", "alt"},
+        {"A^2*B^3", "F", "D=27.0 E=4.0 F=108.0 ", "alt"},
+        {"(A+B)*(C+A)", "F", "D=7.0 E=5.0 F=35.0 ", "alt"},
+        {"(A^-1+B)^2", "F", "D=0.5 E=3.5 F=12.25 ", "alt"},
+        {"A*r*B", "E", "D=1.5 E=3.0 ", "alt"},
+        {"r*r*C", "E", "D=2.5 E=1.25 ", "alt"},
+        {"A+", "Fehler", "", syntaxFehler},
+        {"(A+B", "Fehler", "", "alt"},
+        {"X", "Fehler", "", "alt"},
+        {"A-1", "Fehler", "", "alt"},
+        {"X+A+A", "Fehler", "D=4.0 ", "alt"},
+        {"X-A-A", "Fehler", "D=-2.0 E=-2.0 F=-4.0 ", "alt"},
+        {"A^-B", "Fehler", "", "alt"},
+        {"A^1^2", "Fehler", "", "alt"},
+        {"A+Q", "Fehler", "", "alt"},
+        {"A*Q*Q", "Fehler", "", "alt" + produktFehler},
+        {"Q^-1", "Fehler", "", "alt" + quadratFehler},
+        {"A*(N^-1)", "Fehler", "", "alt" + regulaerFehler},
+    };
+    for (const auto& [term, ergebnis, werte, meldungen] : faelle) {
+        // 1 x 1 values show by their temporaries which operands each step joined; Q is not
+        // square, N is singular. The temporaries start at D.
+        neu();
+        for (const auto& [name, wert] : {std::pair{"A", "2"}, {"B", "3"}, {"C", "5"}, {"N", "0"}}) {
+            lege(name, sm(1, 1, {wert}));
+        }
+        lege("Q", sm(2, 3, {"1", "2", "3", "4", "5", "6"}));
+        const ListenZustand vorher = listenZustand();
+        termZustand().r = 0.5;
+        termZustand().fehlerListe = "alt";
+        EXPECT_EQ(parsen(term), (NamenErgebnis{ergebnis, ergebnis != "Fehler"})) << term;
+        EXPECT_EQ(temporaere(), werte) << term;
+        EXPECT_EQ(termZustand().fehlerListe, meldungen) << term;
         tempNamenEntfernen();
-        EXPECT_TRUE(termZustand().tempNamen.empty());
-        EXPECT_EQ(listenZustand().sMatrixListe, vorher.sMatrixListe);
-        EXPECT_EQ(listenZustand().smNamen, vorher.smNamen);
+        EXPECT_TRUE(termZustand().tempNamen.empty()) << term;
+        EXPECT_EQ(listenZustand().sMatrixListe, vorher.sMatrixListe) << term;
+        EXPECT_EQ(listenZustand().smNamen, vorher.smNamen) << term;
     }
-};
+}
 
-struct Erfolg {
-    const char* term;
-    double r;
-    const char* ergebnis;
-    std::vector<std::string> temporaere; // the values stored under D, E, F, ... in that order
-};
-
-class Gelingt : public Auswertung, public ::testing::WithParamInterface<Erfolg> {};
-
-TEST_P(Gelingt, VorrangRechtsassoziativUndTemporaere) {
-    legeVorrat();
-    const ListenZustand vorher = listenZustand();
-    termZustand().r = GetParam().r;
-    EXPECT_EQ(parsen(GetParam().term), (NamenErgebnis{GetParam().ergebnis, true}));
-    std::set<std::string> namen;
-    for (std::size_t k = 0; k < GetParam().temporaere.size(); ++k) {
-        const std::string name(1, static_cast<char>('D' + k));
-        namen.insert(name);
-        EXPECT_EQ(listenZustand().sMatrixListe.at(name).grid,
-                  std::vector<std::string>{GetParam().temporaere[k]})
-            << name;
-    }
-    EXPECT_EQ(termZustand().tempNamen, namen);
+// hoch multiplies from the left, and refuses the inverse only for a determinant of exactly 0.0.
+TEST_F(Auswertung, HochFaktorenVonLinksUndExakterNulltest) {
+    // With these entries a * (a * a) and (a * a) * a differ in the last bit.
+    Matrix a(2, 2);
+    a.grid = {0.1, 0.7, 0.3, 0.9};
+    ASSERT_NE(a * (a * a), (a * a) * a);
+    EXPECT_EQ(hoch(a, 3), std::make_pair(a * (a * a), true));
+    // A determinant of 1e-16 passes, and invers() then gives the 1 x 1 zero matrix.
+    a.grid = {1e-8, 0, 0, 1e-8};
+    EXPECT_EQ(hoch(a, -1), std::make_pair(Matrix(1, 1), true));
     EXPECT_EQ(termZustand().fehlerListe, "");
-    erwarteAufgeraeumt(vorher);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Terme, Gelingt,
-    ::testing::Values(Erfolg{"A", 0, "A", {}}, Erfolg{"(A)", 0, "A", {}}, Erfolg{"a ", 0, "A", {}},
-                      // A-B-C is A + ((-B) + (-C)); A-B*C is A + (-(B*C)).
-                      Erfolg{"A-B-C", 0, "G", {"-5.0", "-3.0", "-8.0", "-6.0"}},
-                      Erfolg{"A-B*C", 0, "F", {"15.0", "-15.0", "-13.0"}},
-                      Erfolg{"A*B*C", 0, "E", {"15.0", "30.0"}},
-                      Erfolg{"A^2*B^3", 0, "F", {"27.0", "4.0", "108.0"}},
-                      Erfolg{"(A+B)*(C+A)", 0, "F", {"7.0", "5.0", "35.0"}},
-                      Erfolg{"(A^-1+B)^2", 0, "F", {"0.5", "3.5", "12.25"}},
-                      Erfolg{"A^1", 0, "D", {"2.0"}}, Erfolg{"r*A", 0.5, "D", {"1.0"}},
-                      Erfolg{"A*r*B", 0.5, "E", {"1.5", "3.0"}},
-                      Erfolg{"r*r*C", 3, "E", {"15.0", "45.0"}}));
-
-struct Fehlerfall {
-    const char* term;
-    std::string meldungen;
-};
-
-class Misslingt : public Auswertung, public ::testing::WithParamInterface<Fehlerfall> {};
-
-// Every failure gives ("Fehler", false); messages are appended to what the buffer held, except
-// the syntax message, which replaces it.
-TEST_P(Misslingt, LiefertFehlerUndMeldungen) {
-    legeVorrat();
-    const ListenZustand vorher = listenZustand();
-    termZustand().fehlerListe = "alt";
-    EXPECT_EQ(parsen(GetParam().term), (NamenErgebnis{"Fehler", false}));
-    EXPECT_EQ(termZustand().fehlerListe, GetParam().meldungen);
-    erwarteAufgeraeumt(vorher);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Ursachen, Misslingt,
-    ::testing::Values(
-        Fehlerfall{"A+", syntaxFehler}, Fehlerfall{"AB", syntaxFehler},
-        Fehlerfall{"A+ß", syntaxFehler}, Fehlerfall{"(A+B", "alt"}, Fehlerfall{"X", "alt"},
-        Fehlerfall{"A-1", "alt"}, Fehlerfall{"r", "alt"}, Fehlerfall{"(X)+A", "alt"},
-        Fehlerfall{"X+A+A", "alt"}, Fehlerfall{"X-A-A", "alt"}, Fehlerfall{"A^-B", "alt"},
-        Fehlerfall{"A^1^2", "alt"}, Fehlerfall{"A^-1^2", "alt"}, Fehlerfall{"A+Q", "alt"},
-        // Q*Q fails first; A would fit the 1 x 1 stand-in, yet the message stands only once.
-        Fehlerfall{"A*Q*Q", "alt" + produktFehler},
-        Fehlerfall{"(Q*Q)+(Q*Q)", "alt" + produktFehler + produktFehler},
-        Fehlerfall{"Q^2", "alt" + quadratFehler}, Fehlerfall{"Q^-1", "alt" + quadratFehler},
-        Fehlerfall{"N^-1", "alt" + regulaerFehler},
-        Fehlerfall{"A*(N^-1)", "alt" + regulaerFehler}));
 
 TEST_F(Auswertung, JederSchrittBrauchtEinenFreienBuchstaben) {
     for (char c = 'A'; c <= 'Y'; ++c) {
-        lege(std::string(1, c), 1, 1, {"1"});
+        lege(std::string(1, c), sm(1, 1, {"1"}));
     }
     EXPECT_EQ(parsen("A+B"), (NamenErgebnis{"Z", true}));
     tempNamenEntfernen();
@@ -134,54 +129,29 @@ TEST_F(Auswertung, JederSchrittBrauchtEinenFreienBuchstaben) {
     EXPECT_TRUE(termZustand().tempNamen.empty());
 }
 
-// The operands' numbers are remembered between evaluations; every change of an entry's texts,
-// of one entry, of the size, or by a reset, must be read anew.
+// The operands' numbers are remembered between evaluations; every change of an entry's texts
+// or of its size must be read anew.
 TEST_F(Auswertung, GeaenderteOperandenWerdenNeuGelesen) {
-    struct Stand {
-        std::int64_t zeilen;
-        std::int64_t spalten;
-        std::vector<std::string> a;
-        std::vector<std::string> summe;
-    };
-    const std::vector<Stand> staende{
-        {1, 1, {"1"}, {"2.0"}},
-        {1, 1, {"1"}, {"2.0"}},
-        {1, 1, {"2"}, {"4.0"}},
-        {1, 1, {"2.0"}, {"4.0"}},
-        {1, 1, {"x"}, {"0.0"}},
-        {1, 2, {"1", "2"}, {"2.0", "4.0"}},
-        {2, 1, {"1", "2"}, {"2.0", "4.0"}},
-        {2, 1, {"1", "3"}, {"2.0", "6.0"}},
-    };
-    for (const auto& stand : staende) {
-        lege("A", stand.zeilen, stand.spalten, stand.a);
+    for (const SMatrix& a : {sm(1, 1, {"1"}), sm(1, 1, {"1"}), sm(1, 1, {"2"}),
+                             sm(1, 2, {"1", "2"}), sm(2, 1, {"1", "2"}), sm(2, 1, {"1", "3"})}) {
+        lege("A", a);
         const auto [name, ok] = parsen("A+A");
         ASSERT_TRUE(ok);
-        EXPECT_EQ(listenZustand().sMatrixListe.at(name).grid, stand.summe) << stand.a[0];
+        EXPECT_EQ(listenZustand().sMatrixListe.at(name), (matrix(a) + matrix(a)).smatrix())
+            << a.rows << "x" << a.columns << " " << a.grid.back();
         tempNamenEntfernen();
     }
-    termZustandZuruecksetzen();
-    lege("A", 1, 1, {"5"});
-    EXPECT_EQ(listenZustand().sMatrixListe.at(parsen("A+A").first).grid,
-              std::vector<std::string>{"10.0"});
-    tempNamenEntfernen();
 }
 
 // Temporaries are written into the storage of removed ones; whatever size that storage had, the
 // texts must be exactly the standard texts of the value and nothing of the old matrix may stay.
 TEST_F(Auswertung, WiederverwendeteTexteSindDieStandardtexte) {
-    auto zahlen = [](std::int64_t zeilen, std::int64_t spalten, double start) {
+    const double werte[] = {-0.0, 0.1, 1.0 / 3.0, 1e-7, -2.5, 1e300, 2e-310, 7.0};
+    for (const auto& [zeilen, spalten] : {std::pair{3, 3}, {1, 2}, {8, 8}, {0, 0}, {2, 1}}) {
         Matrix m(zeilen, spalten);
-        const std::vector<double> werte{
-            -0.0, 0.1, 1.0 / 3.0, 1e-7, -2.5, 1e300, 2e-310, 123456789012345678.0, 7.0};
         for (std::size_t k = 0; k < m.grid.size(); ++k) {
-            m.grid[k] = werte[(k + static_cast<std::size_t>(start)) % werte.size()] * (start + 1);
+            m.grid[k] = werte[(k + static_cast<std::size_t>(zeilen)) % 8] * (zeilen + 1.0);
         }
-        return m;
-    };
-    const std::vector<Matrix> folge{zahlen(3, 3, 0), zahlen(1, 2, 1), zahlen(2, 4, 2),
-                                    zahlen(8, 8, 3), Matrix(0, 0),    zahlen(2, 1, 5)};
-    for (const auto& m : folge) {
         const auto [name, ok] = einbuchten(texteVon(m));
         ASSERT_TRUE(ok);
         EXPECT_EQ(listenZustand().sMatrixListe.at(name), m.smatrix()) << m.rows << "x" << m.columns;
@@ -190,26 +160,50 @@ TEST_F(Auswertung, WiederverwendeteTexteSindDieStandardtexte) {
     EXPECT_FALSE(termZustand().textVorrat.empty());
 }
 
-// Temporaries take the first free letter in the order A ... Z; texts that are no letter name
-// never count, wherever they sort among the letters.
-TEST_F(Auswertung, FreierNameNurAusDenBuchstaben) {
-    const std::vector<std::pair<std::set<std::string>, std::string>> faelle{
-        {{"AB", "B", "?", "a", "0"}, "B"},
-        {{"ZZ", "\u00C4", "\xC3", "Z\u0301"}, "?"},
-        {{"[", "a"}, "?"},
-        {{}, "?"},
-        {{"Z", "ZA", "A\u0301"}, "Z"},
-        {{"A", "B"}, "A"},
-    };
-    for (const auto& [frei, erwartet] : faelle) {
-        listenZustand().smNamen = frei;
-        EXPECT_EQ(naechsterFreierName(), erwartet);
-        const auto [name, ok] = einbuchten(SMatrix(1, 1));
-        EXPECT_EQ(name, erwartet);
-        EXPECT_EQ(ok, erwartet != "?");
-        EXPECT_EQ(listenZustand().sMatrixListe.contains(erwartet), erwartet != "?");
-        tempNamenEntfernen();
-        listenZustand().sMatrixListe.clear();
+class StummePlattform : public Plattform {
+public:
+    int piepse = 0;
+    void piep() override { ++piepse; }
+    int frage(const std::string&, const std::string&, const std::string&) override {
+        return zweiterKnopf;
+    }
+    std::uint32_t zufallUnter(std::uint32_t) override { return 0; }
+    void beenden(int) override {}
+    std::optional<std::filesystem::path> dokumentenOrdner() override { return std::nullopt; }
+};
+
+// The result of every n-fold run reaches the target, whether it is a temporary handed over to a
+// new entry (Z) or to an old one (B), or another matrix of the list (A), which must keep its
+// entry. Afterwards the list holds exactly the operands and the target, and the free names are
+// the rest.
+TEST_F(Auswertung, NfachZielErhaeltErgebnisOperandenBleiben) {
+    const SMatrix a = sm(2, 2, {"1", "2", "3", "4"});
+    const SMatrix b = sm(2, 2, {"0", "1", "1", "0"});
+    for (const auto& [ziel, term, n, wert] :
+         {std::tuple{"C", "A", "2", sm(2, 2, {"1", "2", "3", "4"})},
+          {"Z", "A+B", "1", sm(2, 2, {"1.0", "3.0", "4.0", "4.0"})},
+          {"B", "A*B", "2", sm(2, 2, {"10.0", "7.0", "22.0", "15.0"})}}) {
+        neu();
+        lege("A", a);
+        lege("B", b);
+        StummePlattform plattform;
+        ViewController vc(plattform);
+        vc.eingabeFb = ziel;
+        vc.eingabeF = term;
+        vc.zaehlF = n;
+        vc.parsNfachStart();
+
+        const auto& liste = listenZustand();
+        EXPECT_EQ(plattform.piepse, 0) << vc.notizF;
+        EXPECT_EQ(liste.sMatrixListe.at(ziel), wert) << ziel;
+        EXPECT_EQ(liste.sMatrixListe.at("A"), a) << ziel;
+        EXPECT_EQ(liste.sMatrixListe.at("B"), std::string(ziel) == "B" ? wert : b) << ziel;
+        const std::set<std::string> belegt{"A", "B", ziel};
+        EXPECT_EQ(liste.sMatrixListe.size(), belegt.size()) << ziel;
+        for (const auto& name : alphabetGross()) {
+            EXPECT_EQ(liste.smNamen.contains(name), !belegt.contains(name)) << ziel << name;
+        }
+        EXPECT_TRUE(termZustand().tempNamen.empty());
     }
 }
 

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 #include <initializer_list>
+#include <set>
+#include <string>
+#include <utility>
 
 namespace tabulon {
 namespace {
@@ -13,7 +16,9 @@ SMatrix aus(std::int64_t zeilen, std::int64_t spalten, std::initializer_list<con
     return m;
 }
 
-TEST(SMatrix, LeereZeilenUndSpaltenVerschwindenLeereMatrixBleibt) {
+// Empty rows and columns go, an empty matrix keeps its size, and the trimmed block reaches from
+// (0, 0) to the last row and column that hold an entry.
+TEST(SMatrix, LeereZeilenUndSpaltenGetrimmterBlock) {
     SMatrix m(8, 8);
     m(0, 0) = "a";
     m(1, 2) = " 5";
@@ -32,6 +37,15 @@ TEST(SMatrix, LeereZeilenUndSpaltenVerschwindenLeereMatrixBleibt) {
         leer(0, 0) = voll;
         EXPECT_FALSE(leer.istLeer()) << '"' << voll << '"';
     }
+
+    m = SMatrix(8, 8);
+    m(0, 0) = "1";
+    m(2, 1) = "x";
+    m(6, 0) = "   ";
+    EXPECT_EQ(m.getrimmt(), aus(3, 2, {"1", "", "", "", "", "x"}));
+    m(0, 4) = "y";
+    EXPECT_EQ(m.getrimmt().columns, 5);
+    EXPECT_EQ(aus(2, 2, {"  ", "", "", ""}).getrimmt(), aus(1, 1, {"  "}));
 }
 
 TEST(SMatrix, UmbauenOhneNeunteZeileOderSpalteUndOhneLetzteZuLoeschen) {
@@ -51,68 +65,55 @@ TEST(SMatrix, UmbauenOhneNeunteZeileOderSpalteUndOhneLetzteZuLoeschen) {
     EXPECT_FALSE(m.spalteLoeschen(3).second);
     EXPECT_FALSE(aus(1, 3, {"4", "5", "6"}).zeileLoeschen(0).second);
     EXPECT_FALSE(SMatrix(3, 1).spalteLoeschen(0).second);
-    EXPECT_EQ(aus(2, 2, {"1", "2", "3", "4"}).string(), "1     2     \n3     4     \n");
-}
-
-TEST(SMatrix, GetrimmtIstDerBlockBisZumLetztenEintrag) {
-    SMatrix m(8, 8);
-    m(0, 0) = "1";
-    m(2, 1) = "x";
-    m(6, 0) = "   ";
-    EXPECT_EQ(m.getrimmt(), aus(3, 2, {"1", "", "", "", "", "x"}));
-    m(0, 4) = "y";
-    EXPECT_EQ(m.getrimmt().columns, 5);
-    EXPECT_EQ(aus(2, 2, {"  ", "", "", ""}).getrimmt(), aus(1, 1, {"  "}));
 }
 
 // The messages of einlistenAls are pinned by the list transcripts; here: what the list holds.
-TEST(Liste, EinlistenAuslistenUndFreieNamen) {
+// Empty rows go before the gaps are filled: the middle row disappears, the gap in the last row
+// becomes "0.0", nine blanks are no gap.
+TEST(Liste, EinlistenFuelltLueckenNachDenLeerzeilen) {
     listenZustandZuruecksetzen();
-    listenZustand().ueberschreiben = true;
-    EXPECT_FALSE(SMatrix(3, 3).einlistenAls("A").second);
-    EXPECT_TRUE(listenZustand().sMatrixListe.empty());
-    listenZustand().ueberschreiben = false;
-    // Empty rows go before the gaps are filled: the middle row disappears, the gap in the last
-    // row becomes "0.0", nine blanks are no gap.
     const SMatrix m = aus(3, 3, {"1", "2", "         ", "", "", " ", "3", "   ", "9"});
     ASSERT_TRUE(m.einlistenAls("B").second);
-    const SMatrix gespeichert = aus(2, 3, {"1", "2", "         ", "3", "0.0", "9"});
-    EXPECT_EQ(listenZustand().sMatrixListe.at("B"), gespeichert);
-    EXPECT_EQ(naechsterFreierName(), "A");
-    EXPECT_EQ(auslisten("B"), std::make_pair(std::string("ok"), true));
-    EXPECT_TRUE(SMatrix::freierMatrixname("B") && listenZustand().smNamen.count("B") == 1);
-    for (const char* name : {"?", "a", "AB", ""}) {
+    EXPECT_EQ(listenZustand().sMatrixListe.at("B"),
+              aus(2, 3, {"1", "2", "         ", "3", "0.0", "9"}));
+    for (const char* name : {"B", "?", "a", "AB", ""}) {
         EXPECT_FALSE(SMatrix::freierMatrixname(name)) << name;
     }
     listenZustandZuruecksetzen();
 }
 
-TEST(Liste, AktuelleListeInEinerZweiUndDreiSpalten) {
-    listenZustandZuruecksetzen();
-    for (const char* name : {"Z", "A", "C"}) {
-        ASSERT_TRUE(aus(1, 1, {"1"}).einlistenAls(name).second);
+// The first free name in the order A ... Z; texts that are no letter name never count, wherever
+// they sort among the letters, and without a free letter the answer is "?".
+TEST(Liste, FreierNameNurAusDenBuchstaben) {
+    const std::pair<std::set<std::string>, std::string> faelle[] = {
+        {{"AB", "B", "?", "a", "0"}, "B"},
+        {{"ZZ", "\u00C4", "\xC3", "Z\u0301"}, "?"},
+        {{"[", "a"}, "?"},
+        {{}, "?"},
+        {{"Z", "ZA", "A\u0301"}, "Z"}};
+    for (const auto& [frei, erwartet] : faelle) {
+        listenZustand().smNamen = frei;
+        EXPECT_EQ(naechsterFreierName(), erwartet);
     }
-    EXPECT_EQ(aktuelleListe(), "A\nC\nZ\n");
-    const struct {
-        int anzahl;
-        const char* text;
-    } faelle[] = {
+    listenZustandZuruecksetzen();
+}
+
+// One column up to ten names, two up to twenty, then three; no line break after the last name of
+// a row that is not full.
+TEST(Liste, AktuelleListeInEinerZweiUndDreiSpalten) {
+    const std::pair<int, const char*> faelle[] = {
         {10, "A\nB\nC\nD\nE\nF\nG\nH\nI\nJ\n"},
         {11, "A , B\nC , D\nE , F\nG , H\nI , J\nK"},
         {20, "A , B\nC , D\nE , F\nG , H\nI , J\nK , L\nM , N\nO , P\nQ , R\nS , T\n"},
         {21, "ABC\nDEF\nGHI\nJKL\nMNO\nPQR\nSTU\n"},
-        {26, "ABC\nDEF\nGHI\nJKL\nMNO\nPQR\nSTU\nVWX\nYZ"},
-    };
-    for (const auto& fall : faelle) {
+        {26, "ABC\nDEF\nGHI\nJKL\nMNO\nPQR\nSTU\nVWX\nYZ"}};
+    for (const auto& [anzahl, text] : faelle) {
         listenZustandZuruecksetzen();
-        for (int i = 0; i < fall.anzahl; ++i) {
+        for (int i = 0; i < anzahl; ++i) {
             aus(1, 1, {"1"}).einlistenAls(std::string(1, static_cast<char>('A' + i)));
         }
-        EXPECT_EQ(aktuelleListe(), fall.text) << fall.anzahl << " names";
+        EXPECT_EQ(aktuelleListe(), text) << anzahl << " names";
     }
-    // With every letter in use the search for a free name ends on "?", under which nothing goes.
-    EXPECT_EQ(naechsterFreierName(), "?");
-    EXPECT_FALSE(aus(1, 1, {"1"}).einlistenAls("?").second);
     listenZustandZuruecksetzen();
 }
 

@@ -2,15 +2,18 @@
 // millions of doubles and texts: a shortcut in the conversions shows up as the first input where
 // the two disagree.
 
+#include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
 
 #include <bit>
 #include <cerrno>
+#include <clocale>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <limits>
 #include <locale.h>
 #include <optional>
 #include <random>
@@ -18,6 +21,20 @@
 
 namespace tabulon {
 namespace {
+
+// Every test of this executable, the comparisons with the C library included, runs under a German
+// locale, whose decimal comma would show up in any number text that depends on the process locale.
+class DeutschesGebietsschema : public ::testing::Environment {
+public:
+    void SetUp() override {
+        ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr)
+            << "the locale de_DE.UTF-8 is missing (scripts/einrichten.sh generates it)";
+        ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+    }
+    void TearDown() override { std::setlocale(LC_ALL, "C"); }
+};
+const ::testing::Environment* const umgebung =
+    ::testing::AddGlobalTestEnvironment(new DeutschesGebietsschema);
 
 locale_t cGebiet() {
     static const locale_t c = newlocale(LC_ALL_MASK, "C", static_cast<locale_t>(nullptr));
@@ -81,55 +98,52 @@ struct Vergleich {
     }
 };
 
-std::string ziffern(std::mt19937_64& z, int anzahl) {
-    std::string t;
-    for (int k = 0; k < anzahl; ++k) {
-        t += static_cast<char>('0' + z() % 10);
+struct Zufall {
+    std::mt19937_64 z;
+    int bis(int n) { return static_cast<int>(z() % static_cast<unsigned>(n)); } // 0 ... n-1
+    std::string ziffern(int anzahl) {
+        std::string t;
+        for (int k = 0; k < anzahl; ++k) {
+            t += static_cast<char>('0' + bis(10));
+        }
+        return t;
     }
-    return t;
-}
+    double zahl(const std::string& text) const { return std::strtod(text.c_str(), nullptr); }
+};
 
 // Random bit patterns (all exponents, subnormals, zeros, infinities, NaNs); short decimals
-// (k digits times a power of ten, the values matrices hold) with their next two neighbours; values
-// next to a tie of the 15-digit rounding (d.dddddddddddddd5 x 10^e) or of the last decimal of
-// %.*f (ddd.dd5), exact ties that printf rounds
-// half to even (m + 0.5 for 15-digit m, 16-digit integers ending in 5) and integers around 2^53.
+// (k digits times a power of ten, the values matrices hold) with a neighbour above and the second
+// below; values next to a tie of the 15-digit rounding (d.dddddddddddddd5 x 10^e) or of the last
+// decimal of %.*f (ddd.dd5), exact ties that printf rounds half to even (m + 0.5 for 15-digit m,
+// 16-digit integers ending in 5) and integers around 2^53.
 TEST(ZahltextVergleich, TexteWieSnprintf) {
-    std::mt19937_64 z(20261123);
+    Zufall r{std::mt19937_64(20261123)};
     Vergleich v;
     for (int i = 0; i < 100000; ++i) {
-        const double x = std::bit_cast<double>(z());
-        v.texte(x, static_cast<int>(z() % 12));
+        const double x = std::bit_cast<double>(r.z());
+        v.texte(x, r.bis(12));
         v.zahl(cDruck("%.15g", x));
         v.zahl(cDruck("%.17g", x));
     }
     for (int i = 0; i < 70000; ++i) {
-        const std::string kurz = ziffern(z, 1 + static_cast<int>(z() % 17)) + "e" +
-                                 ganzText(static_cast<int>(z() % 80) - 40);
-        const double x = std::strtod(kurz.c_str(), nullptr);
-        v.texte(x, static_cast<int>(z() % 11));
+        const double x = r.zahl(r.ziffern(1 + r.bis(17)) + "e" + ganzText(r.bis(80) - 40));
+        v.texte(x, r.bis(11));
         v.texte(-std::nextafter(x, 1e300));
         v.texte(std::nextafter(std::nextafter(x, 0.0), 0.0));
-        const std::string knapp =
-            ganzText(static_cast<int>(1 + z() % 9)) + "." + ziffern(z, 14) +
-            (z() % 4 == 0 ? "49e" : "5e") +
-            ganzText(static_cast<int>(i % 2 == 0 ? z() % 24 : z() % 600) - (i % 2 == 0 ? 7 : 300));
-        const double y = std::strtod(knapp.c_str(), nullptr);
-        // The same near the rounding position of %.*f.
-        const int stellen = static_cast<int>(z() % 11);
+        const int e = i % 2 == 0 ? r.bis(24) - 7 : r.bis(600) - 300;
+        const double y = r.zahl(ganzText(1 + r.bis(9)) + "." + r.ziffern(14) +
+                                (r.bis(4) == 0 ? "49e" : "5e") + ganzText(e));
+        for (const double n : {y, std::nextafter(y, 0.0), std::nextafter(y, 1e300)}) {
+            v.texte(n);
+        }
+        const int stellen = r.bis(11);
         const double h =
-            std::strtod((ziffern(z, static_cast<int>(z() % 7)) + "." + ziffern(z, stellen) + "5" +
-                         ziffern(z, static_cast<int>(z() % 3)))
-                            .c_str(),
-                        nullptr);
-        v.texte(h, stellen);
-        v.texte(-std::nextafter(h, 0.0), stellen);
-        v.texte(std::nextafter(h, 1e300), stellen);
-        v.texte(y);
-        v.texte(std::nextafter(y, 0.0));
-        v.texte(std::nextafter(y, 1e300));
-        v.texte(static_cast<double>(100000000000000 + z() % 900000000000000) + 0.5);
-        v.texte(static_cast<double>((100000000000000 + z() % 800000000000000) * 10 + 5));
+            r.zahl(r.ziffern(r.bis(7)) + "." + r.ziffern(stellen) + "5" + r.ziffern(r.bis(3)));
+        for (const double n : {h, -std::nextafter(h, 0.0), std::nextafter(h, 1e300)}) {
+            v.texte(n, stellen);
+        }
+        v.texte(static_cast<double>(100000000000000 + r.z() % 900000000000000) + 0.5);
+        v.texte(static_cast<double>((100000000000000 + r.z() % 800000000000000) * 10 + 5));
     }
     for (int k = -2000; k <= 2000; ++k) {
         v.texte(9007199254740992.0 + k, 1);
@@ -149,38 +163,61 @@ TEST(ZahltextVergleich, TexteWieSnprintf) {
 TEST(ZahltextVergleich, ZahlenWieStrtod) {
     Vergleich v;
     // clang-format off
-    const char* const texte[] = {
+    for (const char* text : {
         "", " 1", "\t-2.5", "\n3", "+1", "+.5", "-0", "-0.0e7", ".5", "5.", "-.5e1", ".", "-",
         "-.", "1e", "1e+", "1e-", "e5", ".e5", "1.5.", "1e5.", "1e5e", "--1", "-+1", "inf",
         "-Infinity", "INF", "infinit", "nan", "NaN(123)", "-nan", "0x1p-3", "0X1.8P1", "0x",
         "0x1g", "1e309", "-1e400", "1.7976931348623157e308", "1.7976931348623159e308", "1e-320",
         "-1e-320", "2.2250738585072011e-308", "2.4703282292062328e-324", "2.4703282292062327e-324",
         "1e-400", "0e999999999", "1e-99999999999", "1e99999999999", "1,5", "1 ", "1/2", "A", "   ",
-        "12345678901234567890123", "0000000000000000000000000000000000000000000000000000000001.5"};
-    // clang-format on
-    for (const char* text : texte) {
+        "12345678901234567890123", "0000000000000000000000000000000000000000000000000000000001.5"}) {
+        // clang-format on
         v.zahl(text);
     }
     v.zahl(std::string("1\0002", 3));
-    std::mt19937_64 z(99);
+    Zufall r{std::mt19937_64(99)};
     for (int i = 0; i < 300; ++i) {
-        const std::string lang = cDruck("%.17e", std::bit_cast<double>(z() >> 1));
+        const std::string lang = cDruck("%.17e", std::bit_cast<double>(r.z() >> 1));
         const std::size_t e = lang.find('e');
-        v.zahl(lang.substr(0, e) + ziffern(z, 800) + lang.substr(e));
-        v.zahl("0." + ziffern(z, 800));
+        v.zahl(lang.substr(0, e) + r.ziffern(800) + lang.substr(e));
+        v.zahl("0." + r.ziffern(800));
     }
     for (int i = 0; i < 400000; ++i) {
-        std::string text = (z() % 3 == 0 ? "-" : "") + ziffern(z, static_cast<int>(z() % 20));
-        if (z() % 2 == 0) {
-            text += "." + ziffern(z, static_cast<int>(z() % 20));
+        std::string text = (r.bis(3) == 0 ? "-" : "") + r.ziffern(r.bis(20));
+        if (r.bis(2) == 0) {
+            text += "." + r.ziffern(r.bis(20));
         }
-        if (z() % 2 == 0) {
-            text += std::string(z() % 2 == 0 ? "e" : "E") + (z() % 2 == 0 ? "-" : "") +
-                    ganzText(static_cast<int>(z() % 360));
+        if (r.bis(2) == 0) {
+            text += std::string(r.bis(2) == 0 ? "e" : "E") + (r.bis(2) == 0 ? "-" : "") +
+                    ganzText(r.bis(360));
         }
         v.zahl(text);
     }
     EXPECT_GT(v.anzahl, 400000u);
+}
+
+TEST(Zahltext, RoundSchwelleAusDezimalenStellenAusAmount) {
+    listenZustandZuruecksetzen();
+    EXPECT_EQ(round(-0.00000004, 6), "0.000000");
+    EXPECT_EQ(round(-0.0000004, 6), "-0.000000");
+    EXPECT_EQ(round(-0.00000004, 10), "0.0000000000");
+    listenZustand().dezimalen = 2;
+    EXPECT_EQ(round(-0.0001, 6), "0.000000");
+    EXPECT_EQ(round(-0.001, 2), "-0.00");
+    listenZustandZuruecksetzen();
+
+    EXPECT_EQ(xrunden(0.123456789), 0.1234568);
+    EXPECT_EQ(xrunden(-0.00000005), -1e-07); // half away from zero
+    EXPECT_FALSE(std::signbit(xrunden(-4e-8)));
+}
+
+// The field readers are driven through the editing transcripts; here their limits.
+TEST(Zahltext, FeldWerteSaettigenOderLehnenAb) {
+    EXPECT_EQ(intWert("  2147483648abc"), std::numeric_limits<int>::max());
+    EXPECT_EQ(intWert("-99999999999999999999"), std::numeric_limits<int>::min());
+    EXPECT_EQ(strengeGanzzahl("2147483648"), std::nullopt);
+    EXPECT_EQ(strengeGanzzahl("-2147483648"), std::numeric_limits<int>::min());
+    EXPECT_EQ(doubleWert("1,5e3"), 1.0);
 }
 
 } // namespace
