@@ -1,10 +1,9 @@
 #pragma once
-// The characteristic polynomial and its real roots written out plainly: a copied text minor for
-// every term of the expansion, every leaf entry parsed where it is met, the polynomial sum and
-// product with all their steps (the product rebuilds both operands first), Horner over all nine
-// coefficients, and a bisection that always runs until the interval is narrow or 1000 halvings
-// are done. Nothing is kept between terms. The tests hold the library's table expansion and its
-// early-ending root finder against this bit for bit, and the benchmarks time it beside them.
+// The characteristic polynomial and its real roots written out plainly: a copied text minor and
+// freshly parsed entries for every term, the polynomial sum and product with all their steps,
+// Horner over all nine coefficients, and a bisection that always runs until the interval is
+// narrow or 1000 halvings are done. The table expansion and the early-ending root finder must
+// agree with it bit for bit.
 
 #include "numeric/matrix.h"
 #include "polynomials/charpoly.h"
@@ -29,18 +28,14 @@ inline Polynom produkt(const Polynom& a0, const Polynom& b0) {
     const Polynom a(a0.koeff());
     const Polynom b(b0.koeff());
     Polynom::Koeffizienten k{};
-    if (a.grad() + b.grad() > maxGrad) {
+    if (a.grad() + b.grad() > maxGrad || a.grad() < 0 || b.grad() < 0) {
         return Polynom(Polynom::Koeffizienten{});
     }
-    if (a.grad() >= 0 && b.grad() >= 0) {
-        for (std::int64_t i = 0; i <= a.grad(); ++i) {
-            for (std::int64_t j = 0; j <= b.grad(); ++j) {
-                const auto ij = static_cast<std::size_t>(i + j);
-                k[ij] = a.koeff(i) * b.koeff(j) + k[ij];
-            }
+    for (std::int64_t i = 0; i <= a.grad(); ++i) {
+        for (std::int64_t j = 0; j <= b.grad(); ++j) {
+            const auto ij = static_cast<std::size_t>(i + j);
+            k[ij] = a.koeff(i) * b.koeff(j) + k[ij];
         }
-    } else {
-        return Polynom(Polynom::Koeffizienten{});
     }
     return Polynom(k);
 }
@@ -54,9 +49,8 @@ inline Polynom laplacePolynom(const SMatrix& s) {
     for (std::int64_t k = 0; k < n; ++k) {
         const SMatrix m = adiunkteS(s, k);
         const Polynom e = elString2Polynom(s(0, k));
-        Polynom::Koeffizienten v{};
-        v[0] = vorz(k);
-        d = summe(d, produkt(produkt(Polynom(v), e), laplacePolynom(m)));
+        const Polynom v(Polynom::Koeffizienten{vorz(k)});
+        d = summe(d, produkt(produkt(v, e), laplacePolynom(m)));
     }
     return d;
 }
@@ -74,7 +68,6 @@ inline Polynom ableitung(const Polynom& p) {
     for (std::int64_t i = 0; i <= 7; ++i) {
         k[static_cast<std::size_t>(i)] = static_cast<double>(i + 1) * p.koeff(i + 1);
     }
-    k[8] = 0;
     return Polynom(k);
 }
 
@@ -129,9 +122,7 @@ inline std::vector<double> nullstellen(const Polynom& p) {
     const std::vector<double> r = nullstellen(ableitung(p));
     const double gr = grenze(p);
     std::vector<double> x{-gr};
-    for (const double w : r) {
-        x.push_back(w);
-    }
+    x.insert(x.end(), r.begin(), r.end());
     x.push_back(gr);
     std::vector<double> ergebnis;
     for (std::size_t i = 0; i + 1 < x.size(); ++i) {
