@@ -1,18 +1,82 @@
 // What the transcripts of tests/transkripte/dateien cannot see: the files on disk, their exact
-// bytes, and the failures of a folder.
-#include "dateitest.h"
+// bytes, the failures of a folder and every way a list file can be damaged.
 #include "files/dokumente.h"
+#include "files/listendatei.h"
 #include "files/tex.h"
+#include "textmatrix/liste.h"
+#include "window/tableau.h"
+#include "window/viewcontroller.h"
 
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <sys/stat.h>
 
 namespace tabulon {
 namespace {
 
-TEST_F(DateiTest, FehlschlagNenntUrlUndFehlerUndLaesstAlteDateiStehen) {
-    EXPECT_EQ(dateiUrl(ordner / "gibt es nicht"),
-              "file://" + ordner.string() + "/gibt%20es%20nicht");
+// Answers every question with its first button, records beeps, keeps files in the test's folder.
+class DateiPlattform : public Plattform {
+public:
+    std::optional<std::filesystem::path> ordner;
+    int piepse = 0;
 
+    void piep() override { ++piepse; }
+    int frage(const std::string&, const std::string&, const std::string&) override {
+        return ersterKnopf;
+    }
+    std::uint32_t zufallUnter(std::uint32_t) override { return 0; }
+    void beenden(int) override {}
+    std::optional<std::filesystem::path> dokumentenOrdner() override { return ordner; }
+};
+
+class DateiTest : public ::testing::Test {
+protected:
+    DateiTest() {
+        listenZustandZuruecksetzen();
+        tableauZustandZuruecksetzen();
+        protokollZustandZuruecksetzen();
+        std::string muster = (std::filesystem::temp_directory_path() / "tabulon-XXXXXX").string();
+        ordner = mkdtemp(muster.data());
+        plattform.ordner = ordner;
+    }
+    ~DateiTest() override {
+        std::error_code fehler;
+        std::filesystem::remove_all(ordner, fehler);
+    }
+
+    // A matrix of the given rows, its entries row by row.
+    static void liste(const std::string& name, std::int64_t zeilen, std::vector<std::string> e) {
+        SMatrix m(zeilen, static_cast<std::int64_t>(e.size()) / zeilen);
+        m.grid = std::move(e);
+        listenZustand().sMatrixListe[name] = m;
+        listenZustand().smNamen.erase(name);
+    }
+    static void beispielListe() {
+        liste("A", 2, {"1", "2", "3", "4"});
+        liste("C", 1, {"-0.5", "1e3", "0.0"});
+    }
+
+    std::string inhalt(const std::string& datei) const {
+        std::ifstream ein(ordner / datei, std::ios::binary);
+        return {std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
+    }
+    void lege(const std::string& datei, const std::string& text) const {
+        std::ofstream(ordner / datei, std::ios::binary) << text;
+    }
+    std::ptrdiff_t dateien() const {
+        return std::distance(std::filesystem::directory_iterator(ordner), {});
+    }
+
+    std::filesystem::path ordner;
+    DateiPlattform plattform;
+    ViewController vc{plattform};
+};
+
+TEST_F(DateiTest, SpeichernErsetztDieDateiGanzOderLaesstSieStehen) {
     // A folder in the way of the target: the rename fails, nothing else is touched.
     std::filesystem::create_directory(ordner / "Matrix_Z.txt");
     lege("Matrix_Z.txt/drin", "alt");
@@ -20,7 +84,22 @@ TEST_F(DateiTest, FehlschlagNenntUrlUndFehlerUndLaesstAlteDateiStehen) {
     EXPECT_FALSE(ok);
     EXPECT_EQ(meldung.rfind("Failed writing to URL: file://", 0), 0u) << meldung;
     EXPECT_EQ(inhalt("Matrix_Z.txt/drin"), "alt");
-    EXPECT_EQ(dateien(), std::vector<std::string>{"Matrix_Z.txt"});
+    std::filesystem::remove_all(ordner / "Matrix_Z.txt");
+
+    beispielListe();
+    vc.speichern();
+    EXPECT_EQ(inhalt("Matrix_MatDats.txt"), "A%2%2%1%2%3%4%C%1%3%-0.5%1e3%0.0%end%");
+    // The shorter text replaces the file whole, and no temporary file is left behind.
+    listenZustandZuruecksetzen();
+    vc.speichern();
+    EXPECT_EQ(inhalt("Matrix_MatDats.txt"), "end%");
+    EXPECT_EQ(dateien(), 1);
+
+    plattform.ordner = ordner / "gibt es";
+    vc.speichern();
+    EXPECT_EQ(vc.notizF, "Failed writing to URL: file://" + ordner.string() +
+                             "/gibt%20es/Matrix_MatDats.txt, Error: No such file or directory");
+    EXPECT_EQ(plattform.piepse, 0);
 }
 
 TEST_F(DateiTest, NamenDieDenOrdnerVerlassenKoennten) {
@@ -34,7 +113,7 @@ TEST_F(DateiTest, NamenDieDenOrdnerVerlassenKoennten) {
         EXPECT_NE(meldung.find(", Error: Invalid argument"), std::string::npos) << meldung;
         EXPECT_FALSE(lesen(innen, name).first);
     }
-    EXPECT_EQ(dateien(), std::vector<std::string>{"innen"});
+    EXPECT_EQ(dateien(), 1);
     EXPECT_TRUE(std::filesystem::is_empty(innen));
     EXPECT_TRUE(sichererDateiname("a.b") && sichererDateiname("ä"));
 }
@@ -49,52 +128,84 @@ TEST_F(DateiTest, LesenVerweigertFehlendeOrdnerUndRohre) {
     EXPECT_EQ(lesen(ordner, "Matrix_P"), keine);
 }
 
-TEST_F(DateiTest, BloeckeAufsByte) {
+TEST_F(DateiTest, TexUndProtokollDateien) {
     listenZustand().dezimalen = 2;
-    liste("A", 2, {"1", "2", "3", "4"});
+    beispielListe();
     EXPECT_EQ(tex("A"), "\\begin {displaymath}\n"
                         "A = \\left(\\begin {array} {cc}\n"
                         "1.00  & 2.00\\\\\n"
                         "3.00  & 4.00\\\\\n"
                         "\\end {array} \\right) \n"
                         "\\end {displaymath}\n");
-    liste("S", 1, {"1/2", "0.5", "x y"});
-    EXPECT_NE(tex("S").find("\n1/2  & 0.50 & x y\\\\\n"), std::string::npos);
-    liste("V", 3, {"1", "-2", "3"});
-    EXPECT_NE(tex("V").find("{c}\n1.00 \\\\\n-2.00 \\\\\n3.00 \\\\\n\\end"), std::string::npos);
-    listenZustand().dezimalen = 0;
-    liste("E", 1, {"7"});
-    EXPECT_NE(tex("E").find("E = \\left(\\begin {array} {c}\n7 \\\\\n"), std::string::npos);
-    EXPECT_EQ(tex("B"), "");
-}
+    vc.eingabeFb = "a";
+    vc.texAusgabeEinzel();
+    vc.texAusgabeAlle();
+    EXPECT_EQ(inhalt("Matrix_A.txt"), tex("A"));
+    EXPECT_EQ(inhalt("Matrix_Alle.txt"), "A:\n" + tex("A") + "\n\nC:\n" + tex("C") + "\n\n");
+    vc.ausgabe("eins");
+    vc.protoSpeichern();
+    EXPECT_EQ(inhalt("Matrix_proto.txt"), "\n\neins");
 
-TEST_F(DateiTest, SpeichernSchreibtDieDateiOderMeldetDenFehler) {
-    plattform.antwort = Plattform::ersterKnopf;
-    beispielListe();
-    vc.speichern();
-    EXPECT_EQ(inhalt("Matrix_MatDats.txt"), "A%2%2%1%2%3%4%C%1%3%-0.5%1e3%0.0%end%");
-    // The shorter text replaces the file whole, and no temporary file is left behind.
-    listenZustandZuruecksetzen();
-    vc.speichern();
-    EXPECT_EQ(inhalt("Matrix_MatDats.txt"), "end%");
-    EXPECT_EQ(dateien(), std::vector<std::string>{"Matrix_MatDats.txt"});
-
+    // Failures beep; the protocol's leaves the note as it was.
     plattform.ordner = ordner / "fehlt";
-    vc.speichern();
-    EXPECT_EQ(vc.notizF, "Failed writing to URL: " + dateiUrl(ordner) +
-                             "/fehlt/Matrix_MatDats.txt, Error: No such file or directory");
-    EXPECT_EQ(plattform.piepse, 0);
+    vc.texAusgabeAlle();
+    EXPECT_EQ(vc.notizF, "Da hat beim Speichern irgendetwas nicht funktioniert.");
+    vc.texAusgabeEinzel();
+    EXPECT_EQ(vc.notizF, "Da hat irgendetwas nicht funktioniert.");
+    vc.protoSpeichern();
+    EXPECT_EQ(vc.notizF, "Da hat irgendetwas nicht funktioniert.");
+    EXPECT_EQ(plattform.piepse, 3);
 }
 
-TEST_F(DateiTest, KaputteDateiLaesstListeAusgabeUndProtokollStehen) {
+TEST_F(DateiTest, LiestAuchUngewoehnlicheAberHarmloseDateien) {
+    // A byte-order mark, blanks everywhere, a hand-edited name, an empty entry, an entry that reads
+    // "end", leading zeros in a count, a later record of the same name, and text after "end".
+    liste("D", 1, {"9"});
     liste("B", 1, {"8"});
+    const auto [meldung, ok] = codestringDecodieren(
+        "\xEF\xBB\xBF a b %1%2%1 2%x%D%01%2%%end%D%1%1%-0. 5%end%alles danach%egal");
+    EXPECT_TRUE(ok) << meldung;
+    const auto& l = listenZustand();
+    ASSERT_EQ(l.sMatrixListe.size(), 3u);
+    EXPECT_EQ(l.sMatrixListe.at("ab").grid, (std::vector<std::string>{"12", "x"}));
+    EXPECT_EQ(l.sMatrixListe.at("D").grid, std::vector<std::string>{"-0.5"});
+    EXPECT_EQ(l.sMatrixListe.at("B").grid, std::vector<std::string>{"8"});
+    EXPECT_EQ(l.smNamen.size(), 24u); // "ab" was never a free name
+}
+
+TEST_F(DateiTest, SpeichernVerweigertWasNichtZurueckkaeme) {
+    liste("A", 1, {"1"});
+    liste("M", 1, {"\xcc\x81"}); // a lone combining accent would merge with the "%" before it
+    EXPECT_EQ(speicherHindernis(), "Die Liste lässt sich nicht so speichern, dass sie unverändert "
+                                   "wieder geladen werden kann. Die Datei 'Matrix_MatDats.txt' "
+                                   "wurde nicht verändert.");
+    // Inside an entry the accent is harmless, and blanks are simply dropped on reading.
+    listenZustand().sMatrixListe["M"].grid[0] = "e\xcc\x81 1 2";
+    EXPECT_EQ(speicherHindernis(), std::nullopt);
+    const std::string text = alleMatrizenCodieren();
+    listenZustandZuruecksetzen();
+    EXPECT_TRUE(codestringDecodieren(text).second);
+    EXPECT_EQ(listenZustand().sMatrixListe.at("M").grid[0], "e\xcc\x81"
+                                                            "12");
+}
+
+struct Kaputt {
+    std::string datei;
+    std::string grund;
+};
+
+class KaputteDatei : public DateiTest, public ::testing::WithParamInterface<Kaputt> {};
+
+// Refused whole with a note and a beep; the list, its output and the protocol stay as they were.
+TEST_P(KaputteDatei, WirdGanzAbgelehnt) {
+    beispielListe();
+    liste("B", 1, {"5"});
     const ListenZustand vorher = listenZustand();
-    lege("Matrix_MatDats.txt", "A%1%1%1%B%3%1%2%end%");
+    lege("Matrix_MatDats.txt", GetParam().datei);
     vc.ausgabeF = "alt";
-    plattform.antwort = Plattform::ersterKnopf;
     vc.laden();
-    EXPECT_EQ(vc.notizF, "Die Datei 'Matrix_MatDats.txt' wurde nicht geladen: Der Matrix B fehlen "
-                         "Einträge. Die Liste ist unverändert.");
+    EXPECT_EQ(vc.notizF, "Die Datei 'Matrix_MatDats.txt' wurde nicht geladen: " + GetParam().grund +
+                             " Die Liste ist unverändert.");
     EXPECT_EQ(plattform.piepse, 1);
     EXPECT_EQ(listenZustand().sMatrixListe, vorher.sMatrixListe);
     EXPECT_EQ(listenZustand().smNamen, vorher.smNamen);
@@ -102,37 +213,25 @@ TEST_F(DateiTest, KaputteDateiLaesstListeAusgabeUndProtokollStehen) {
     EXPECT_EQ(protokollZustand().maxSeitenNr, 0);
 }
 
-TEST_F(DateiTest, TexDateienUndIhreFehlschlaege) {
-    beispielListe();
-    vc.eingabeFb = "a";
-    vc.texAusgabeEinzel();
-    vc.texAusgabeAlle();
-    EXPECT_EQ(inhalt("Matrix_A.txt"), tex("A"));
-    EXPECT_EQ(inhalt("Matrix_Alle.txt"), "A:\n" + tex("A") + "\n\nC:\n" + tex("C") + "\n\n");
+const std::string ohneEnd = "Das abschließende Feld 'end' fehlt.";
+const std::string name = "Sie enthält einen leeren oder unzulässigen Matrixnamen.";
+const std::string zeilen = "Die Zeilenzahl der Matrix A ist keine ganze Zahl von 1 bis 8.";
 
-    plattform.ordner = ordner / "fehlt";
-    vc.texAusgabeAlle();
-    EXPECT_EQ(vc.notizF, "Da hat beim Speichern irgendetwas nicht funktioniert.");
-    vc.eingabeFb = "C";
-    vc.texAusgabeEinzel();
-    EXPECT_EQ(vc.notizF, "Da hat irgendetwas nicht funktioniert.");
-    EXPECT_EQ(plattform.piepse, 2);
-}
-
-TEST_F(DateiTest, ProtokollDatei) {
-    vc.protoSpeichern();
-    EXPECT_EQ(inhalt("Matrix_proto.txt"), "\n");
-    vc.ausgabe("eins");
-    vc.ausgabe("zwei\n");
-    vc.protoSpeichern();
-    EXPECT_EQ(inhalt("Matrix_proto.txt"), "\n\neins\nzwei\n");
-
-    plattform.ordner = ordner / "fehlt";
-    vc.notiz("bleibt");
-    vc.protoSpeichern();
-    EXPECT_EQ(vc.notizF, "bleibt");
-    EXPECT_EQ(plattform.piepse, 1);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Listendatei, KaputteDatei,
+    ::testing::Values(
+        Kaputt{"end", ohneEnd},
+        Kaputt{"A%2%2%1%2%3%end%", ohneEnd}, // "end" taken as the last entry
+        Kaputt{"A%0%1%end%", zeilen}, Kaputt{"A%9%1%1%2%3%4%5%6%7%8%9%end%", zeilen},
+        Kaputt{"A%1%99999999999999999999%5%end%",
+               "Die Spaltenzahl der Matrix A ist keine ganze Zahl von 1 bis 8."},
+        Kaputt{"E%1%1%5%A%2%2%1%2%3%", "Der Matrix A fehlen Einträge."},
+        Kaputt{"E%1%1%5%A%2%", "Die Matrix A ist unvollständig."}, Kaputt{"%1%1%5%end%", name},
+        Kaputt{"?%1%1%5%end%", name}, Kaputt{"Fehler%1%1%5%end%", name},
+        Kaputt{std::string(groessteListendatei - 3, ' ') + "end%xyzw",
+               "Sie ist zu groß für eine Matrixliste."},
+        // The damage comes after a good record: the good one must not be entered either.
+        Kaputt{"E%1%1%5%../x%1%1%5%end%", name}));
 
 } // namespace
 } // namespace tabulon
