@@ -48,7 +48,8 @@ struct EigenAnalyse {
     bool diagonalisierbar() const;
 };
 
-// eintraege holds the n·n entries row by row. n = 0 gives the empty product: charpoly 1.
+// eintraege holds the n·n entries row by row. n = 0, or a count of entries other than n·n,
+// gives the analysis of the empty matrix: charpoly 1, no factors, no eigenvalues.
 EigenAnalyse eigenAnalyse(std::size_t n, const std::vector<mpq_class>& eintraege);
 
 // "-x^3 + 4x^2 - x - 6"; a fractional coefficient is joined with a dot: "1/2·x^2 - 3/4".

@@ -17,9 +17,11 @@ namespace {
 // polynomial of an 8 × 8 matrix with room to spare, and cost next to nothing at degree 8.
 constexpr slong ordnungsBits = 512;
 
-// Up to this size fmpz_factor finishes in well under a millisecond; above it, a discriminant
-// is only searched for prime factors of up to about 40 bits (see quadratfrei).
-constexpr flint_bitcnt_t vollFaktorisierenBits = 128;
+// Trial division by every number below probeGrenze costs about a millisecond on a discriminant
+// of thousands of bits; a remainder of up to vollFaktorisierenBits is then factorised in full,
+// which takes fmpz_factor at most a few milliseconds (see quadratfrei).
+constexpr unsigned long probeGrenze = 1UL << 14;
+constexpr std::size_t vollFaktorisierenBits = 64;
 
 double mitte(const arb_t x) {
     return arf_get_d(arb_midref(x), ARF_RND_NEAR);
@@ -172,34 +174,48 @@ std::string sichereDezimalen(const arb_t x, int stellen) {
     return (sgn(unten) < 0 ? "-" : "") + ziffern;
 }
 
-// A discriminant of a quadratic factor of an 8 × 8 decimal matrix can run to hundreds of bits,
-// and factoring a product of two large primes could take hours. So a large number is searched
-// only for smaller prime factors; its remaining cofactor counts as square-free unless it is a
-// perfect square itself. That leaves √d correct in every case, if not always fully reduced.
+// A discriminant of a quadratic factor of an 8 × 8 decimal matrix can run to thousands of bits,
+// and factoring a product of two large primes could take hours. So the small primes are
+// divided out by trial; what remains is factorised completely only when that is cheap. A larger
+// remainder without a prime factor below the trial bound counts as square-free unless it is a
+// perfect square. That leaves p + q·√d correct in every case, if then perhaps not fully reduced.
 std::pair<mpz_class, mpz_class> quadratfrei(const mpz_class& n) {
-    Zahl z(n);
-    fmpz_factor_t zerlegung;
-    fmpz_factor_init(zerlegung);
-    if (fmpz_bits(z.v) <= vollFaktorisierenBits) {
-        fmpz_factor(zerlegung, z.v);
-    } else {
-        fmpz_factor_smooth(zerlegung, z.v, 40, 0);
-    }
+    mpz_class rest = n;
     mpz_class s = 1;
     mpz_class d = 1;
-    for (slong i = 0; i < zerlegung->num; ++i) {
-        mpz_class p = alsMpz(zerlegung->p + i);
-        unsigned long exp = zerlegung->exp[i];
-        if (mpz_perfect_square_p(p.get_mpz_t()) && p > 1) {
-            mpz_sqrt(p.get_mpz_t(), p.get_mpz_t());
-            exp *= 2;
-        }
+    auto nimm = [&](const mpz_class& p, unsigned long exponent) {
         mpz_class potenz;
-        mpz_pow_ui(potenz.get_mpz_t(), p.get_mpz_t(), exp / 2);
+        mpz_pow_ui(potenz.get_mpz_t(), p.get_mpz_t(), exponent / 2);
         s *= potenz;
-        if (exp % 2 == 1) {
+        if (exponent % 2 == 1) {
             d *= p;
         }
+    };
+    // Every k that divides the rest here is prime: its prime factors were divided out before.
+    for (unsigned long k = 2; k < probeGrenze && rest > 1; ++k) {
+        unsigned long exponent = 0;
+        while (mpz_divisible_ui_p(rest.get_mpz_t(), k) != 0) {
+            mpz_divexact_ui(rest.get_mpz_t(), rest.get_mpz_t(), k);
+            ++exponent;
+        }
+        nimm(k, exponent);
+    }
+    if (rest == 1) {
+        return {s, d};
+    }
+    if (mpz_perfect_square_p(rest.get_mpz_t()) != 0) {
+        mpz_sqrt(rest.get_mpz_t(), rest.get_mpz_t());
+        return {s * rest, d};
+    }
+    if (mpz_sizeinbase(rest.get_mpz_t(), 2) > vollFaktorisierenBits) {
+        return {s, d * rest};
+    }
+    Zahl z(rest);
+    fmpz_factor_t zerlegung;
+    fmpz_factor_init(zerlegung);
+    fmpz_factor(zerlegung, z.v);
+    for (slong i = 0; i < zerlegung->num; ++i) {
+        nimm(alsMpz(zerlegung->p + i), zerlegung->exp[i]);
     }
     fmpz_factor_clear(zerlegung);
     return {s, d};

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <ostream>
 #include <random>
 #include <string>
 #include <vector>
@@ -266,6 +267,10 @@ struct Beispiel {
     bool diagonalisierbar;
 };
 
+void PrintTo(const Beispiel& b, std::ostream* os) {
+    *os << b.faktorisierung;
+}
+
 class FesteBeispiele : public testing::TestWithParam<Beispiel> {};
 
 TEST_P(FesteBeispiele, ExakteWerteUndTexte) {
@@ -359,6 +364,12 @@ TEST(Eigen, SichereDezimalenUndQuadratfrei) {
     const auto [s, d] = quadratfrei(mpz_class(4 * 9 * 5) * grossePrimzahl * grossePrimzahl);
     EXPECT_EQ(s, 6 * grossePrimzahl);
     EXPECT_EQ(d, 5);
+    // A square of a prime above the trial division, found by the full factorisation.
+    mpz_class p = 20000;
+    mpz_class r = 1000000000;
+    mpz_nextprime(p.get_mpz_t(), p.get_mpz_t());
+    mpz_nextprime(r.get_mpz_t(), r.get_mpz_t());
+    EXPECT_EQ(quadratfrei(7 * p * p * r), std::make_pair(p, mpz_class(7 * r)));
 }
 
 TEST(Eigen, Texte) {
@@ -391,7 +402,7 @@ std::vector<long> zufallsEintraege(std::mt19937_64& g, std::size_t anzahl, long 
 TEST(Eigen, ZufaelligeGanzeUndDezimaleMatrizen) {
     std::mt19937_64 g(20261124);
     for (std::size_t n = 1; n <= 8; ++n) {
-        for (int runde = 0; runde < 6; ++runde) {
+        for (int runde = 0; runde < 12; ++runde) {
             SCOPED_TRACE("n = " + std::to_string(n) + ", Runde " + std::to_string(runde));
             const auto ganz = zufallsEintraege(g, n * n, -9, 8);
             pruefeAnalyse(n, Matrix(ganz.begin(), ganz.end()));
