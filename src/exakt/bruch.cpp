@@ -93,8 +93,12 @@ std::optional<Bruch> liesBruch(std::string_view text) {
     return Bruch(*zaehler / *nenner);
 }
 
+// GMP's arithmetic keeps its results reduced, but a fraction built from two integers is kept
+// as given; the texts reduce a copy so that no page ever shows 2/4.
 std::string bruchText(const Bruch& b) {
-    return b.get_str(10);
+    Bruch r = b;
+    r.canonicalize();
+    return r.get_str(10);
 }
 
 double naechsterDouble(const Bruch& b) {

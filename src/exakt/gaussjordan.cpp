@@ -75,6 +75,7 @@ Umformung gaussJordan(const BMatrix& a, std::size_t spalten) {
         if (p < m.rows) {
             s.hatPivot = true;
             s.pivot = m(p, c);
+            s.gefunden = p;
             auto tue = [&](Zeilenoperation op) {
                 anwenden(op, m);
                 s.operationen.push_back(std::move(op));
@@ -107,8 +108,10 @@ void schritteZeigen(Seite& seite, const BMatrix& start, const Umformung& u, std:
             seite.zeile(kopf);
             continue;
         }
-        kopf << "Pivot " << s.pivot << ", erster Eintrag ≠ 0 ab Zeile "
-             << ganzText(static_cast<std::int64_t>(s.zeile) + 1);
+        kopf << "Pivot " << s.pivot << " in Zeile "
+             << ganzText(static_cast<std::int64_t>(s.gefunden) + 1)
+             << " (erster Eintrag ≠ 0 ab Zeile " << ganzText(static_cast<std::int64_t>(s.zeile) + 1)
+             << ")";
         if (s.operationen.empty()) {
             seite.zeile(kopf << "; die Spalte ist schon fertig.");
             continue;

@@ -31,8 +31,9 @@ void anwenden(const Zeilenoperation& op, BMatrix& m);
 struct Spaltenschritt {
     std::size_t spalte = 0;
     bool hatPivot = false;
-    std::size_t zeile = 0; // the current row, where the pivot ends up
-    Bruch pivot;           // the pivot before scaling
+    std::size_t zeile = 0;    // the current row, where the pivot ends up
+    std::size_t gefunden = 0; // the row the pivot was found in, before any exchange
+    Bruch pivot;              // the pivot before scaling
     std::vector<Zeilenoperation> operationen;
     BMatrix danach;
 };

@@ -66,8 +66,8 @@ ExaktAntwort exaktDeterminante(const std::string& name, const SMatrix& m) {
     antwort.ok = true;
     Seite& s = antwort.seite;
     s.zeile("Determinante von " + name + " durch Umformen in eine obere Dreiecksmatrix:");
-    s.zeile("Z_i ← Z_i − c·Z_k ändert die Determinante nicht, ein Zeilentausch Z_i ↔ Z_k "
-            "ändert ihr Vorzeichen.");
+    s.zeile("Zi ← Zi − c·Zk ändert die Determinante nicht, ein Zeilentausch Zi ↔ Zk ändert "
+            "ihr Vorzeichen.");
     s.leer().zeile("Ausgangsmatrix:").matrix(a);
     std::size_t tausche = 0;
     Bruch det = 0;
@@ -118,13 +118,15 @@ ExaktAntwort exaktDeterminante(const std::string& name, const SMatrix& m) {
         Zeile z;
         z << "det(" << name << ") = ";
         if (tausche % 2 == 1)
-            z << "−";
+            z << "−(";
         for (std::size_t k = 0; k < n; ++k) {
             if (k > 0)
                 z << " · ";
             faktor(z, a(k, k));
             det *= a(k, k);
         }
+        if (tausche % 2 == 1)
+            z << ")";
         if (tausche > 0)
             s.zeile(zahl(tausche) + (tausche == 1 ? " Zeilentausch" : " Zeilentausche") +
                     ", das Vorzeichen wechselt " + zahl(tausche) + "-mal.");

@@ -135,7 +135,9 @@ std::string Seite::text() const {
     return s;
 }
 
-std::string bruchTex(const Bruch& b) {
+std::string bruchTex(const Bruch& wert) {
+    Bruch b = wert;
+    b.canonicalize();
     if (b.get_den() == 1)
         return b.get_num().get_str();
     mpz_class p = abs(b.get_num());
