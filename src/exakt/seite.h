@@ -58,7 +58,7 @@ struct Seite {
     // two blanks, the bar as " | ". Ends with a line break.
     std::string text() const;
     // The page body in TeX (amsmath): each line a paragraph, each matrix a displayed array in
-    // round brackets whose column specification carries the bar.
+    // round brackets whose column format carries the bar.
     std::string tex() const;
 
     bool operator==(const Seite&) const = default;

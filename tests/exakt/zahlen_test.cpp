@@ -83,17 +83,6 @@ TEST(Zahlen, MatrixLesenNenntDenFalschenEintrag) {
     EXPECT_FALSE(liesBMatrix("C", SMatrix()).ok);
 }
 
-TEST(Zahlen, TableauZeigtDieStandardtexte) {
-    BMatrix m(1, 4);
-    m(0, 0) = Bruch(-5, 3);
-    m(0, 1) = 2;
-    m(0, 2) = Bruch(1, 10);
-    m(0, 3) = 0;
-    SMatrix t = tableauText(m);
-    EXPECT_EQ(t.grid, (std::vector<std::string>{"-1.66666666666667", "2.0", "0.1", "0.0"}));
-    EXPECT_EQ(bruchText(Bruch(-10, 6)), "-5/3");
-}
-
 TEST(Seite, TextRichtetSpaltenAusUndZeigtDenBalken) {
     BMatrix m(2, 3);
     m(0, 0) = 1;
