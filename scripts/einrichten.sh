@@ -10,7 +10,7 @@ build=${1:?build directory}
 shift
 
 pakete=(build-essential cmake ninja-build googletest libgtest-dev libgmock-dev libbenchmark-dev
-        qt6-base-dev libgmp-dev locales clang libclang-rt-14-dev)
+        qt6-base-dev locales clang libclang-rt-14-dev libgmp-dev libflint-dev libflint-arb-dev)
 
 als_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi

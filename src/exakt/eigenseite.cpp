@@ -32,14 +32,7 @@ ExaktAntwort exaktEigen(const std::string& name, const SMatrix& m) {
     Seite& s = antwort.seite;
     s.zeile("Eigenwerte und Eigenvektoren von " + name + " (" + groesse(a) + ")").leer();
     s.zeile("Charakteristisches Polynom: det(" + name + " − x·E) = " + polynomText(e.charpoly));
-    std::string zerlegung;
-    if (e.konstante == -1)
-        zerlegung = "−";
-    else if (e.konstante != 1)
-        zerlegung = bruchText(e.konstante) + "·";
-    for (std::size_t i = 0; i < e.faktoren.size(); ++i)
-        zerlegung += (i > 0 ? "·" : "") + faktorText(e.faktoren[i]);
-    s.zeile("Zerlegt über den rationalen Zahlen: " + zerlegung);
+    s.zeile("Zerlegt über den rationalen Zahlen: " + faktorisierungText(e));
 
     std::vector<BVektor> vektoren;
     bool diagonalisierbar = e.nichtReell == 0;
@@ -59,6 +52,8 @@ ExaktAntwort exaktEigen(const std::string& name, const SMatrix& m) {
             diagonalisierbar = false;
         if (w.art == ReellerEigenwert::Art::rational)
             s.zeile(Zeile(lk + " = ") << w.wert);
+        else if (w.text().starts_with("≈"))
+            s.zeile(lk + " " + w.text()); // a certified decimal: "λ1 ≈ 1.3247179572"
         else
             s.zeile(lk + " = " + w.text());
         s.zeile("   algebraische Vielfachheit " + zahl(static_cast<std::size_t>(w.algebraisch)) +

@@ -1,6 +1,7 @@
 #include "exakt/seite.h"
 
 #include <algorithm>
+#include <cctype>
 #include <utility>
 
 namespace tabulon {
@@ -159,6 +160,18 @@ std::string texText(std::string_view text) {
             s += text[i] == '^' ? "\\ensuremath{^{" + argument + "}}"
                                 : "\\ensuremath{\\sqrt{" + argument + "}}";
             i = ende;
+            continue;
+        }
+        // A hyphen joins two words ("Gauß-Jordan", "1-mal"); every other '-' is a minus sign,
+        // which text mode would set as a short hyphen.
+        if (text[i] == '-') {
+            bool davorWort = i > 0 && (std::isalnum(static_cast<unsigned char>(text[i - 1])) ||
+                                       static_cast<unsigned char>(text[i - 1]) >= 0x80);
+            bool danachBuchstabe =
+                i + 1 < text.size() && (std::isalpha(static_cast<unsigned char>(text[i + 1])) ||
+                                        static_cast<unsigned char>(text[i + 1]) >= 0x80);
+            s += davorWort && danachBuchstabe ? "-" : "\\ensuremath{-}";
+            ++i;
             continue;
         }
         bool ersetzt = false;

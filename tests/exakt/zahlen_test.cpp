@@ -121,6 +121,9 @@ TEST(Seite, TexSetztSymboleUndSonderzeichen) {
     EXPECT_EQ(texText("1/2 + 1/2·√5 ≈ x^2"),
               "1/2 + 1/2\\ensuremath{\\cdot}\\ensuremath{\\sqrt{5}} \\ensuremath{\\approx} "
               "x\\ensuremath{^{2}}");
+    EXPECT_EQ(texText("Gauß-Jordan, 1-mal, x^2 - 2, -√2 (-1)"),
+              "Gauß-Jordan, 1-mal, x\\ensuremath{^{2}} \\ensuremath{-} 2, "
+              "\\ensuremath{-}\\ensuremath{\\sqrt{2}} (\\ensuremath{-}1)");
     EXPECT_EQ(texText("50% & $a_b {c} #1 ~ \\"),
               "50\\% \\& \\$a\\_b \\{c\\} \\#1 \\textasciitilde{} \\textbackslash{}");
     std::string dok = texDokument(Seite().zeile("Größe λ"));
