@@ -109,9 +109,11 @@ void schritteZeigen(Seite& seite, const BMatrix& start, const Umformung& u, std:
             continue;
         }
         kopf << "Pivot " << s.pivot << " in Zeile "
-             << ganzText(static_cast<std::int64_t>(s.gefunden) + 1)
-             << " (erster Eintrag ≠ 0 ab Zeile " << ganzText(static_cast<std::int64_t>(s.zeile) + 1)
-             << ")";
+             << ganzText(static_cast<std::int64_t>(s.gefunden) + 1);
+        // A pivot from further down says why it was chosen before the exchange brings it up.
+        if (s.gefunden != s.zeile)
+            kopf << " (erster Eintrag ≠ 0 ab Zeile "
+                 << ganzText(static_cast<std::int64_t>(s.zeile) + 1) << ")";
         if (s.operationen.empty()) {
             seite.zeile(kopf << "; die Spalte ist schon fertig.");
             continue;
@@ -120,6 +122,19 @@ void schritteZeigen(Seite& seite, const BMatrix& start, const Umformung& u, std:
         for (const auto& op : s.operationen)
             seite.zeile(Zeile("   ") << op.text());
         seite.matrix(s.danach, balken);
+    }
+    // Once every row holds a pivot the elimination stops; the columns left over belong to free
+    // variables, which the page says rather than leaving them unmentioned.
+    const std::size_t ende = start.columns - balken;
+    const std::size_t naechste = u.schritte.empty() ? 0 : u.schritte.back().spalte + 1;
+    if (naechste < ende) {
+        std::string von = ganzText(static_cast<std::int64_t>(naechste) + 1);
+        std::string bis = ganzText(static_cast<std::int64_t>(ende));
+        seite.leer().zeile(
+            (naechste + 1 == ende ? "Spalte " + von : "Spalten " + von + " bis " + bis) +
+            ": jede Zeile hat schon ein Pivot; " +
+            (naechste + 1 == ende ? "die Spalte gehört zu einer freien Variablen."
+                                  : "die Spalten gehören zu freien Variablen."));
     }
 }
 

@@ -42,6 +42,9 @@ TEST(ExaktBefehle, GleichungssystemOhneUndMitFreienLoesungen) {
     ExaktAntwort frei = exaktLGS("D", texte({{"1", "1", "1", "3"}, {"0", "1", "2", "1"}}));
     ASSERT_TRUE(frei.ok);
     std::string t = frei.seite.text();
+    EXPECT_TRUE(enthaelt(t, "Spalte 3: jede Zeile hat schon ein Pivot; die Spalte gehört zu "
+                            "einer freien Variablen.\n"))
+        << t;
     EXPECT_TRUE(enthaelt(t, "   x3 = t (frei wählbar)\n   x1 = 2 + t\n   x2 = 1 − 2·t\n")) << t;
     EXPECT_TRUE(enthaelt(t, "Lösungsmenge: x = (2, 1, 0) + t·(1, -2, 1)\n")) << t;
     ASSERT_TRUE(frei.tableau);
