@@ -1,15 +1,14 @@
 #include "qt/qtplattform.h"
 
+#include "files/ordner.h"
+
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QFont>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
 #include <QRandomGenerator>
-#include <QStandardPaths>
 
 #include <cstdlib>
 
@@ -61,11 +60,8 @@ void QtPlattform::beenden(int status) {
 }
 
 std::optional<std::filesystem::path> QtPlattform::dokumentenOrdner() {
-    const QString ort = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    if (ort.isEmpty() || !QDir().mkpath(ort)) {
-        return std::nullopt;
-    }
-    return std::filesystem::path(QFile::encodeName(ort).toStdString());
+    // The script driver asks the same function, so both use the same folder.
+    return standardDokumentenOrdner();
 }
 
 QPixmap anwendungsIcon(int kante) {

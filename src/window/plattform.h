@@ -27,7 +27,8 @@ public:
     virtual std::uint32_t zufallUnter(std::uint32_t grenze) = 0;
     // Ends the process at once with this status. An implementation for tests may return.
     virtual void beenden(int status) = 0;
-    // The user's documents folder, created when missing; nothing when it cannot be determined.
+    // The user's documents folder; nothing when it cannot be determined. It is only named here:
+    // the file writer creates it when missing and reports a folder that cannot be created.
     virtual std::optional<std::filesystem::path> dokumentenOrdner() = 0;
 };
 
