@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <memory>
 #include <set>
 #include <string>
 #include <tuple>
@@ -194,6 +195,52 @@ TEST_F(Auswertung, NfachZielErhaeltErgebnisOperandenBleiben) {
         }
         EXPECT_TRUE(termZustand().tempNamen.empty());
     }
+}
+
+// A long n-fold run reports after every run but the last; asked to stop, it stops after the
+// current run, the target keeps the last completed run's value, and the note and the protocol
+// name the runs done. A failing term stopped the same way says so after its failure note.
+TEST_F(Auswertung, NfachLaufAnhalten) {
+    const auto lauf = [](const char* term, const char* n, std::int64_t anhalten) {
+        neu();
+        lege("A", sm(1, 1, {"0"}));
+        lege("B", sm(1, 1, {"1"}));
+        lege("C", sm(1, 2, {"1", "2"}));
+        auto plattform = std::make_unique<TestPlattform>();
+        plattform->anhaltenNach = anhalten;
+        ViewController vc(*plattform);
+        vc.eingabeFb = "A";
+        vc.eingabeF = term;
+        vc.zaehlF = n;
+        vc.parsNfachStart();
+        EXPECT_TRUE(termZustand().tempNamen.empty());
+        EXPECT_EQ(listenZustand().sMatrixListe.size(), 3u);
+        EXPECT_EQ(plattform->fortschrittEnden, 1);
+        return std::pair{std::move(plattform), vc.notizF};
+    };
+
+    auto [ganz, ganzNotiz] = lauf("A+B", "4", 0);
+    EXPECT_EQ(ganz->fortschritte, (std::vector<std::int64_t>{1, 2, 3}));
+    EXPECT_EQ(ganzNotiz, "Das Ergebnis der Berechnung von A wird im Eingabe-Tableau angezeigt");
+    EXPECT_EQ(listenZustand().sMatrixListe.at("A"), sm(1, 1, {"4.0"}));
+
+    auto [halt, haltNotiz] = lauf("A+B", "1e18", 3);
+    EXPECT_EQ(halt->fortschritte, (std::vector<std::int64_t>{1, 2, 3}));
+    EXPECT_TRUE(halt->ereignisse.empty());
+    EXPECT_EQ(haltNotiz, "Nach 3 von 1000000000000000000 Läufen abgebrochen. Das Ergebnis der "
+                         "Berechnung von A wird im Eingabe-Tableau angezeigt");
+    EXPECT_EQ(listenZustand().sMatrixListe.at("A"), sm(1, 1, {"3.0"}));
+    EXPECT_EQ(protokollZustand().protokoll.back().rfind("Die 3-malige Auswertung des Terms A+B "
+                                                        "ergibt: A = \n\n",
+                                                        0),
+              0u);
+
+    auto [fehler, fehlerNotiz] = lauf("C*A", "5", 2);
+    EXPECT_EQ(fehlerNotiz, produktFehler + produktFehler +
+                               "Die Formel konnte nicht ausgewertet werden. Nach 2 von 5 Läufen "
+                               "abgebrochen.");
+    EXPECT_EQ(fehler->ereignisse, std::vector<std::string>{"piep"});
+    EXPECT_EQ(listenZustand().sMatrixListe.at("A"), sm(1, 1, {"0"}));
 }
 
 } // namespace
