@@ -14,6 +14,7 @@
 #include <fstream>
 #include <malloc.h>
 #include <new>
+#include <string>
 #include <unistd.h>
 
 namespace {
@@ -88,10 +89,17 @@ struct Ordner {
     std::filesystem::path liste() const { return pfad / "Matrix_MatDats.txt"; }
 };
 
-// Runs the command once per iteration and reports its peak memory above the start.
-template <typename Befehl> void miss(benchmark::State& state, Befehl befehl) {
+void nichts() {}
+
+// Runs the command once per iteration and reports its peak memory above the start, which is
+// taken after `vorbereiten`.
+template <typename Befehl>
+void miss(benchmark::State& state, Befehl befehl, void (*vorbereiten)() = nichts) {
     std::size_t hoechste = 0;
     for (auto _ : state) {
+        state.PauseTiming();
+        vorbereiten();
+        state.ResumeTiming();
         const std::size_t vorher = belegt.load();
         spitze = vorher;
         befehl();
@@ -125,6 +133,27 @@ void GiBDateiAblehnen(benchmark::State& state) {
     ladenAbgelehnt(state, ordner, "zu groß");
 }
 BENCHMARK(GiBDateiAblehnen)->Unit(benchmark::kMillisecond);
+
+// The most a sound file under the limit can cost: records of one empty entry under as many
+// distinct names as fit, each becoming a matrix of its own in the list.
+void VieleNamenLaden(benchmark::State& state) {
+    const Ordner ordner;
+    std::string text;
+    for (int k = 0; text.size() + 16 < groessteListendatei; ++k) {
+        text += "n" + std::to_string(k) + "%1%1%%";
+    }
+    std::ofstream(ordner.liste(), std::ios::binary) << text + "end%";
+    OrdnerPlattform plattform;
+    plattform.ordner = ordner.pfad;
+    ViewController vc(plattform);
+    miss(
+        state, [&vc] { vc.laden(); }, bench::allesZuruecksetzen);
+    if (vc.notizF != "Die im Dokumente-Ordner gespeicherten Matrizen wurden geladen. ") {
+        state.SkipWithError(vc.notizF.c_str());
+    }
+    state.counters["Matrizen"] = static_cast<double>(listenZustand().sMatrixListe.size());
+}
+BENCHMARK(VieleNamenLaden)->Unit(benchmark::kMillisecond);
 
 // The list holds one entry of 17 MiB; the memory counted is what refusing it costs on top.
 void ZuGrossNichtSpeichern(benchmark::State& state) {
