@@ -84,5 +84,56 @@ void NfachAinversMalB(benchmark::State& state) {
 }
 BENCHMARK(NfachAinversMalB)->Arg(1000)->Unit(benchmark::kMillisecond);
 
+// Deeply nested and many side-by-side bracket cores, of the given number: "((A)^1)^1 ..." and
+// "(A)+(A)+ ...". The letters run out after 25 steps, so almost every core fails at once and the
+// time is that of taking the term apart, which must grow linearly with its length: the fitted
+// complexity is reported as oN or better.
+std::string verschachtelt(std::int64_t kerne) {
+    std::string t = "A";
+    for (std::int64_t k = 0; k < kerne; ++k) {
+        t = "(" + t + ")" + (k + 1 < kerne ? "^1" : "");
+    }
+    return t;
+}
+
+std::string nebeneinander(std::int64_t kerne) {
+    std::string t = "(A)";
+    for (std::int64_t k = 1; k < kerne; ++k) {
+        t += "+(A)";
+    }
+    return t;
+}
+
+void klammernMit(benchmark::State& state, std::string (*bauen)(std::int64_t)) {
+    StillePlattform plattform;
+    ViewController vc(plattform);
+    matrizenAnlegen(vc);
+    vc.eingabeF = bauen(state.range(0));
+    for (auto _ : state) {
+        vc.parsStart();
+        benchmark::DoNotOptimize(vc.notizF);
+        bench::protokollKurzHalten(state);
+    }
+    state.SetComplexityN(state.range(0));
+}
+
+void KlammernVerschachtelt(benchmark::State& state) {
+    klammernMit(state, verschachtelt);
+}
+BENCHMARK(KlammernVerschachtelt)
+    ->RangeMultiplier(10)
+    ->Range(1000, 100000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity();
+
+void KlammernNebeneinander(benchmark::State& state) {
+    klammernMit(state, nebeneinander);
+}
+BENCHMARK(KlammernNebeneinander)
+    ->RangeMultiplier(10)
+    ->Range(1000, 100000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity();
+
 } // namespace
 } // namespace tabulon

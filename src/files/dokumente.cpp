@@ -2,10 +2,12 @@
 // descriptor to flush and a rename, and the failure message needs errno.
 
 #include "files/dokumente.h"
+#include "files/ordner.h"
 #include "textmatrix/zahltext.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <locale.h>
@@ -28,6 +30,57 @@ std::string fehlerText(int nummer) {
 
 std::string dateiName(const std::string& name) {
     return "Matrix_" + name + ".txt";
+}
+
+// Temporary files are named ".Matrix_<name>.txt.<pid>-<n>.tmp".
+std::string temporaerPraefix(const std::string& name) {
+    return "." + dateiName(name) + ".";
+}
+
+bool nurZiffern(std::string_view s) {
+    return !s.empty() &&
+           std::all_of(s.begin(), s.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+// The process id of a temporary file name of ours for `name`, or -1 for any other file name.
+long temporaerProzess(std::string_view datei, const std::string& name) {
+    const std::string praefix = temporaerPraefix(name);
+    if (!datei.starts_with(praefix) || !datei.ends_with(".tmp")) {
+        return -1;
+    }
+    datei.remove_prefix(praefix.size());
+    datei.remove_suffix(4);
+    const auto strich = datei.find('-');
+    if (strich == std::string_view::npos || !nurZiffern(datei.substr(0, strich)) ||
+        !nurZiffern(datei.substr(strich + 1)) || strich > 9) {
+        return -1;
+    }
+    return std::stol(std::string(datei.substr(0, strich)));
+}
+
+// Removes what an interrupted save to `name` left behind: temporary files of our naming whose
+// process is gone, or which are this process's own (it writes one file at a time, so any other
+// temporary of its own is a leftover). A temporary of another running Tabulon is left alone; it
+// is that program's save in progress.
+void resteEntfernen(const std::filesystem::path& ordner, const std::string& name) {
+    std::error_code fehler;
+    std::filesystem::directory_iterator eintraege(ordner, fehler);
+    if (fehler) {
+        return;
+    }
+    const long selbst = ::getpid();
+    for (const auto& eintrag : eintraege) {
+        const long prozess = temporaerProzess(eintrag.path().filename().string(), name);
+        if (prozess < 0) {
+            continue;
+        }
+        const bool verwaist = prozess == selbst || prozess == 0 ||
+                              (::kill(static_cast<pid_t>(prozess), 0) != 0 && errno == ESRCH);
+        if (verwaist) {
+            // unlink removes a link itself, never what it points to, and fails on a folder.
+            ::unlink(eintrag.path().c_str());
+        }
+    }
 }
 
 std::pair<bool, std::string> fehlschlag(const std::filesystem::path& ziel, int nummer) {
@@ -56,8 +109,8 @@ int temporaerAnlegen(const std::filesystem::path& ordner, const std::string& nam
                      std::filesystem::path& temp) {
     static unsigned zaehler = 0;
     for (int versuch = 0; versuch < 100; ++versuch) {
-        temp = ordner / ("." + dateiName(name) + "." + ganzText(::getpid()) + "-" +
-                         ganzText(zaehler++) + ".tmp");
+        temp = ordner /
+               (temporaerPraefix(name) + ganzText(::getpid()) + "-" + ganzText(zaehler++) + ".tmp");
         const int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
         if (fd >= 0 || errno != EEXIST) {
             return fd;
@@ -111,13 +164,24 @@ std::pair<bool, std::string> schreiben(const std::optional<std::filesystem::path
     if (!sichererDateiname(name)) {
         return fehlschlag(ziel, EINVAL);
     }
+    // A folder that is known but cannot be made is a failed write like any other.
+    if (const int nummer = ordnerAnlegen(*ordner); nummer != 0) {
+        return fehlschlag(ziel, nummer);
+    }
     std::filesystem::path temp;
     const int fd = temporaerAnlegen(*ordner, name, temp);
     if (fd < 0) {
         return fehlschlag(ziel, errno);
     }
     int nummer = 0;
-    if (!allesSchreiben(fd, s) || ::fsync(fd) != 0) {
+    // The new file keeps the permissions of the one it replaces, so that a private list stays
+    // private; a new file has the umask's, from the open above.
+    struct stat alt {};
+    if (::stat(ziel.c_str(), &alt) == 0 && S_ISREG(alt.st_mode) &&
+        ::fchmod(fd, alt.st_mode & 07777) != 0) {
+        nummer = errno;
+    }
+    if (nummer == 0 && (!allesSchreiben(fd, s) || ::fsync(fd) != 0)) {
         nummer = errno;
     }
     if (::close(fd) != 0 && nummer == 0) {
@@ -137,11 +201,12 @@ std::pair<bool, std::string> schreiben(const std::optional<std::filesystem::path
         ::fsync(ordnerFd);
         ::close(ordnerFd);
     }
+    resteEntfernen(*ordner, name);
     return {true, ""};
 }
 
 std::pair<bool, std::string> lesen(const std::optional<std::filesystem::path>& ordner,
-                                   const std::string& fileName) {
+                                   const std::string& fileName, std::size_t grenze) {
     if (!ordner) {
         return {false, ""};
     }
@@ -160,10 +225,13 @@ std::pair<bool, std::string> lesen(const std::optional<std::filesystem::path>& o
         ::close(fd);
         return {false, keineDateiMeldung};
     }
+    // At most grenze + 1 bytes: enough for the caller to see that a file is too big, without
+    // the cost of a huge file, or of an endless one under /proc.
+    const std::size_t hoechstens = grenze == SIZE_MAX ? grenze : grenze + 1;
     std::string text;
     char puffer[65536];
-    for (;;) {
-        const ssize_t n = ::read(fd, puffer, sizeof puffer);
+    while (text.size() < hoechstens) {
+        const ssize_t n = ::read(fd, puffer, std::min(sizeof puffer, hoechstens - text.size()));
         if (n < 0) {
             if (errno == EINTR) {
                 continue;

@@ -14,16 +14,36 @@ namespace {
 
 const std::string trenner = "%";
 const std::string endeFeld = "end";
+constexpr std::string_view bom = "\xEF\xBB\xBF";
+
+// The fields of a text one at a time, each the text up to the next "%"; what follows the last
+// "%" belongs to no field.
+class Felder {
+public:
+    explicit Felder(std::string_view text) : rest(text) {}
+    std::optional<std::string_view> naechstes() {
+        const auto ende = rest.find('%');
+        if (ende == std::string_view::npos) {
+            return std::nullopt;
+        }
+        const std::string_view feld = rest.substr(0, ende);
+        rest.remove_prefix(ende + 1);
+        return feld;
+    }
+
+private:
+    std::string_view rest;
+};
 
 // A row or column count: decimal digits only (blanks are gone before this) with a value of 1 to
 // 8, the largest size the tableau can hold.
-std::optional<std::int64_t> anzahl(const std::string& feld) {
+std::optional<std::int64_t> anzahl(std::string_view feld) {
     if (feld.empty() ||
         !std::all_of(feld.begin(), feld.end(), [](char c) { return c >= '0' && c <= '9'; })) {
         return std::nullopt;
     }
     const std::size_t erste = feld.find_first_not_of('0');
-    if (erste == std::string::npos || feld.size() - erste != 1) {
+    if (erste == std::string_view::npos || feld.size() - erste != 1) {
         return std::nullopt;
     }
     const int wert = feld[erste] - '0';
@@ -71,6 +91,23 @@ std::string alleMatrizenCodieren() {
     return s + endeFeld + trenner;
 }
 
+std::size_t codierteLaenge() {
+    const auto& liste = listenZustand().sMatrixListe;
+    std::size_t laenge = endeFeld.size() + 1;
+    for (const std::string& name : grossBuchstaben()) {
+        const auto gefunden = liste.find(name);
+        if (gefunden == liste.end()) {
+            continue;
+        }
+        const SMatrix& m = gefunden->second;
+        laenge += name.size() + ganzText(m.rows).size() + ganzText(m.columns).size() + 3;
+        for (const std::string& e : m.grid) {
+            laenge += e.size() + 1;
+        }
+    }
+    return laenge;
+}
+
 std::optional<std::string> speicherHindernis() {
     const auto& liste = listenZustand().sMatrixListe;
     for (const std::string& x : grossBuchstaben()) {
@@ -88,12 +125,18 @@ std::optional<std::string> speicherHindernis() {
                                     "Zeichen '%', das in der Datei die Felder trennt.");
         }
     }
-    // The reader splits the text into user-perceived characters, so an entry beginning with a
-    // combining mark would glue onto the "%" before it. Rather than list every such case, the
-    // text is read back here: it must give the list it came from, up to the blanks, which the
-    // format drops by design.
-    const ListenInhalt zurueck =
-        stringfeldPruefen(zeichenFeld2Stringfeld(string2ZeichenFeldL(alleMatrizenCodieren())));
+    // Measured before anything is built: a list with a huge entry must not cost its size many
+    // times over just to be refused.
+    if (codierteLaenge() > groessteListendatei) {
+        return nichtGespeichert("Die Liste ist zu groß: ihre Datei wäre länger als " +
+                                ganzText(static_cast<std::int64_t>(groessteListendatei)) +
+                                " Bytes, und eine längere Datei wird nicht geladen.");
+    }
+    // Whatever else might not come back (a name that the reader would refuse, a byte-order mark
+    // at the start of the text), the text is read back here: it must give the list it came
+    // from, up to the blanks, which the format drops by design.
+    const std::string text = ohneLeerzeichen(alleMatrizenCodieren());
+    const ListenInhalt zurueck = stringfeldPruefen(text.starts_with(bom) ? "" : text);
     std::map<std::string, SMatrix> erwartet;
     for (const std::string& x : grossBuchstaben()) {
         const auto gefunden = liste.find(x);
@@ -103,105 +146,86 @@ std::optional<std::string> speicherHindernis() {
             erwartet[x] = std::move(m);
         }
     }
-    std::map<std::string, SMatrix> gelesen(zurueck.matrizen.begin(), zurueck.matrizen.end());
-    if (!zurueck.ok || gelesen != erwartet) {
+    if (!zurueck.ok || zurueck.matrizen != erwartet) {
         return nichtGespeichert("Die Liste lässt sich nicht so speichern, dass sie unverändert "
                                 "wieder geladen werden kann.");
     }
     return std::nullopt;
 }
 
-Zeichenfeld zeichenFeld2Stringfeld(const Zeichenfeld& quelle) {
-    Zeichenfeld felder;
-    std::string feld;
-    for (const std::string& zeichen : quelle) {
-        if (zeichen == trenner) {
-            felder.push_back(std::move(feld));
-            feld.clear();
-        } else {
-            feld += zeichen;
-        }
-    }
-    return felder;
-}
-
 bool zulaessigerListenname(std::string_view name) {
     return sichererDateiname(name) && name != "?" && name != "Fehler";
 }
 
-ListenInhalt stringfeldPruefen(const Zeichenfeld& meinFeld) {
+ListenInhalt stringfeldPruefen(std::string_view ohneLeerzeichen) {
     ListenInhalt inhalt;
-    const std::size_t n = meinFeld.size();
-    std::size_t i = 0;
+    Felder felder(ohneLeerzeichen);
     while (true) {
-        if (i >= n) {
+        const auto name = felder.naechstes();
+        if (!name) {
             inhalt.fehler = abgelehnt("Das abschließende Feld 'end' fehlt.");
             return inhalt;
         }
-        if (meinFeld[i] == endeFeld) {
+        if (*name == endeFeld) {
             break;
         }
-        const std::string& name = meinFeld[i];
-        if (!zulaessigerListenname(name)) {
+        const std::string nameText(*name);
+        if (!zulaessigerListenname(*name)) {
             inhalt.fehler = abgelehnt("Sie enthält einen leeren oder unzulässigen Matrixnamen.");
             return inhalt;
         }
-        if (i + 2 >= n) {
-            inhalt.fehler = abgelehnt("Die Matrix " + name + " ist unvollständig.");
+        const auto zeilenFeld = felder.naechstes();
+        const auto spaltenFeld = zeilenFeld ? felder.naechstes() : std::nullopt;
+        if (!spaltenFeld) {
+            inhalt.fehler = abgelehnt("Die Matrix " + nameText + " ist unvollständig.");
             return inhalt;
         }
-        const auto zeilen = anzahl(meinFeld[i + 1]);
+        const auto zeilen = anzahl(*zeilenFeld);
         if (!zeilen) {
-            inhalt.fehler = abgelehnt("Die Zeilenzahl der Matrix " + name +
+            inhalt.fehler = abgelehnt("Die Zeilenzahl der Matrix " + nameText +
                                       " ist keine ganze Zahl von 1 bis 8.");
             return inhalt;
         }
-        const auto spalten = anzahl(meinFeld[i + 2]);
+        const auto spalten = anzahl(*spaltenFeld);
         if (!spalten) {
-            inhalt.fehler = abgelehnt("Die Spaltenzahl der Matrix " + name +
+            inhalt.fehler = abgelehnt("Die Spaltenzahl der Matrix " + nameText +
                                       " ist keine ganze Zahl von 1 bis 8.");
-            return inhalt;
-        }
-        i += 3;
-        const auto eintraege = static_cast<std::size_t>(*zeilen * *spalten);
-        if (n - i < eintraege) {
-            inhalt.fehler = abgelehnt("Der Matrix " + name + " fehlen Einträge.");
             return inhalt;
         }
         SMatrix m(*zeilen, *spalten);
-        std::copy_n(meinFeld.begin() + static_cast<std::ptrdiff_t>(i), eintraege, m.grid.begin());
-        i += eintraege;
-        inhalt.matrizen.emplace_back(name, std::move(m));
+        for (std::string& eintrag : m.grid) {
+            const auto feld = felder.naechstes();
+            if (!feld) {
+                inhalt.fehler = abgelehnt("Der Matrix " + nameText + " fehlen Einträge.");
+                return inhalt;
+            }
+            eintrag = *feld;
+        }
+        inhalt.matrizen.insert_or_assign(nameText, std::move(m));
     }
     inhalt.ok = true;
     return inhalt;
 }
 
-std::pair<std::string, bool> stringfeldDecode(const Zeichenfeld& meinFeld) {
-    ListenInhalt inhalt = stringfeldPruefen(meinFeld);
+std::pair<std::string, bool> codestringDecodieren(std::string_view code) {
+    if (code.size() > groessteListendatei) {
+        return {abgelehnt("Sie ist zu groß für eine Matrixliste."), false};
+    }
+    // Tabulon writes no byte-order mark, but an editor may add one; it would become part of the
+    // first name.
+    if (code.starts_with(bom)) {
+        code.remove_prefix(bom.size());
+    }
+    ListenInhalt inhalt = stringfeldPruefen(ohneLeerzeichen(std::string(code)));
     if (!inhalt.ok) {
         return {inhalt.fehler, false};
     }
     ListenZustand& zustand = listenZustand();
     for (auto& [name, m] : inhalt.matrizen) {
         zustand.smNamen.erase(name);
-        zustand.sMatrixListe[name] = std::move(m);
+        zustand.sMatrixListe.insert_or_assign(name, std::move(m));
     }
     return {"", true};
-}
-
-std::pair<std::string, bool> codestringDecodieren(std::string_view code) {
-    // A sound list of 26 matrices is a few kilobytes; splitting into one text per character
-    // multiplies the memory many times, so a huge file is refused before that.
-    if (code.size() > groessteListendatei) {
-        return {abgelehnt("Sie ist zu groß für eine Matrixliste."), false};
-    }
-    // Tabulon writes no byte-order mark, but an editor may add one; it would become part of the
-    // first name.
-    if (code.starts_with("\xEF\xBB\xBF")) {
-        code.remove_prefix(3);
-    }
-    return stringfeldDecode(zeichenFeld2Stringfeld(string2ZeichenFeldL(code)));
 }
 
 } // namespace tabulon

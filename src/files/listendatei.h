@@ -5,52 +5,55 @@
 // faithfully, and the reader checks the whole file before it changes anything: a damaged or
 // hostile file is refused as a whole and leaves the list exactly as it was.
 //
-// Reading goes text -> characters (blanks dropped, string2ZeichenFeldL of the term language) ->
-// fields (zeichenFeld2Stringfeld) -> records (stringfeldDecode).
+// Reading is one pass over the bytes: blanks are dropped, the rest is split into fields at every
+// "%" as the records ask for them, so the memory it takes stays a small multiple of the file's
+// size, which is bounded by groessteListendatei.
 
-#include "terms/parser.h"
 #include "textmatrix/smatrix.h"
 
 #include <cstddef>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace tabulon {
 
 inline const std::string listenDateiName = "MatDats";
 
+// The largest list file that is read or written. The largest list the tableau can build, 26
+// matrices of 8 x 8, stays below it with entries of 600 bytes each; a number's standard text
+// has at most 24.
+inline constexpr std::size_t groessteListendatei = 1024 * 1024;
+
 // name%rows%columns%e00%e01%...% for one matrix.
 std::string m2String(const SMatrix& m, const std::string& name);
 // Every listed matrix in the order of grossBuchstaben, then "end%".
 std::string alleMatrizenCodieren();
+// The length of alleMatrizenCodieren(), computed without building the text.
+std::size_t codierteLaenge();
 
-// When some listed matrix cannot be written so that it reads back the same (an entry or name
-// holding "%", or one that would merge with a field end), the note that refuses the save and
-// names that matrix; nothing when the whole list can be saved.
+// When the list cannot be written so that it loads back the same (an entry holding "%", a file
+// longer than groessteListendatei, or anything else that would not read back), the note that
+// refuses the save; nothing when the whole list can be saved.
 std::optional<std::string> speicherHindernis();
 
-// Joins characters into fields at every "%"; characters after the last "%" are dropped.
-Zeichenfeld zeichenFeld2Stringfeld(const Zeichenfeld& quelle);
-
-// The records of a field list, checked as a whole.
+// The records of a file text, checked as a whole.
 struct ListenInhalt {
-    std::vector<std::pair<std::string, SMatrix>> matrizen; // in file order
-    std::string fehler;                                    // why the file was refused
+    std::map<std::string, SMatrix> matrizen; // a later record of the same name replaces
+    std::string fehler;                      // why the file was refused
     bool ok = false;
 };
-ListenInhalt stringfeldPruefen(const Zeichenfeld& meinFeld);
+// Checks a text whose blanks are already dropped.
+ListenInhalt stringfeldPruefen(std::string_view ohneLeerzeichen);
 
-// Enters the records into the list (replacing matrices of the same name, taking the names out of
-// the free names) when the whole field list is sound: ("", true). Otherwise (the note that
-// refuses the file, false), and the list is unchanged.
-std::pair<std::string, bool> stringfeldDecode(const Zeichenfeld& meinFeld);
-// The text of a list file: a leading byte-order mark is skipped, a text of more than
-// groessteListendatei bytes is refused.
+// The text of a list file: a text of more than groessteListendatei bytes is refused, a leading
+// byte-order mark skipped, blanks dropped, and the records entered into the list (replacing
+// matrices of the same name, taking the names out of the free names) when the whole text is
+// sound: ("", true). Otherwise (the note that refuses the file, false), and the list is
+// unchanged.
 std::pair<std::string, bool> codestringDecodieren(std::string_view code);
-inline constexpr std::size_t groessteListendatei = 16 * 1024 * 1024;
 
 // A name that a file may bring into the list: not empty, nothing that could leave the documents
 // folder when it becomes part of a file name, and none of the marker names "?" and "Fehler".

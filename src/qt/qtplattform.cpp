@@ -1,15 +1,15 @@
 #include "qt/qtplattform.h"
 
+#include "files/ordner.h"
+
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QFont>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRandomGenerator>
-#include <QStandardPaths>
 
 #include <cstdlib>
 
@@ -61,11 +61,52 @@ void QtPlattform::beenden(int status) {
 }
 
 std::optional<std::filesystem::path> QtPlattform::dokumentenOrdner() {
-    const QString ort = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    if (ort.isEmpty() || !QDir().mkpath(ort)) {
-        return std::nullopt;
+    // The script driver asks the same function, so both use the same folder.
+    return standardDokumentenOrdner();
+}
+
+QtPlattform::QtPlattform() = default;
+QtPlattform::~QtPlattform() = default;
+
+bool QtPlattform::fortschritt(std::int64_t fertig, std::int64_t gesamt) {
+    constexpr qint64 ab = 500;     // ms before the dialog appears
+    constexpr qint64 abstand = 50; // ms between two looks at the window
+    constexpr int schritte = 1000; // the bar's range; n may exceed an int
+    if (!fortschrittUhr.isValid()) {
+        fortschrittUhr.start();
+        naechsterBlick = ab;
     }
-    return std::filesystem::path(QFile::encodeName(ort).toStdString());
+    // A run of a small term takes microseconds, a look at the window far more: look only now
+    // and then, and not at all during the first half second.
+    const qint64 jetzt = fortschrittUhr.elapsed();
+    if (jetzt < naechsterBlick) {
+        return true;
+    }
+    naechsterBlick = jetzt + abstand;
+    if (!fortschrittDialog) {
+        fortschrittDialog = std::make_unique<QProgressDialog>(elternFenster);
+        fortschrittDialog->setWindowTitle(QStringLiteral("Tabulon"));
+        fortschrittDialog->setCancelButtonText(QStringLiteral("Abbrechen"));
+        // Application-modal: while the command runs, no other action of the window may start.
+        fortschrittDialog->setWindowModality(Qt::ApplicationModal);
+        fortschrittDialog->setAutoClose(false);
+        fortschrittDialog->setAutoReset(false);
+        fortschrittDialog->setMinimumDuration(0);
+        fortschrittDialog->setRange(0, schritte);
+        fortschrittDialog->setObjectName(QStringLiteral("fortschrittDialog"));
+        fortschrittDialog->show();
+    }
+    fortschrittDialog->setLabelText(
+        QStringLiteral("Lauf %1 von %2 ist fertig.").arg(fertig).arg(gesamt));
+    fortschrittDialog->setValue(
+        static_cast<int>(static_cast<double>(fertig) / static_cast<double>(gesamt) * schritte));
+    QApplication::processEvents();
+    return !fortschrittDialog->wasCanceled();
+}
+
+void QtPlattform::fortschrittEnde() {
+    fortschrittDialog.reset();
+    fortschrittUhr.invalidate();
 }
 
 QPixmap anwendungsIcon(int kante) {

@@ -7,10 +7,14 @@
 
 #include "window/plattform.h"
 
+#include <QElapsedTimer>
+
 #include <functional>
+#include <memory>
 
 class QWidget;
 class QPixmap;
+class QProgressDialog;
 
 namespace tabulon {
 
@@ -26,6 +30,18 @@ public:
     std::uint32_t zufallUnter(std::uint32_t grenze) override;
     void beenden(int status) override;
     std::optional<std::filesystem::path> dokumentenOrdner() override;
+    // A command that runs longer than half a second shows a modal progress dialog with a cancel
+    // button; a shorter one shows nothing.
+    bool fortschritt(std::int64_t fertig, std::int64_t gesamt) override;
+    void fortschrittEnde() override;
+
+    QtPlattform();
+    ~QtPlattform() override;
+
+private:
+    QElapsedTimer fortschrittUhr;
+    qint64 naechsterBlick = 0;
+    std::unique_ptr<QProgressDialog> fortschrittDialog;
 };
 
 // The application icon "M128.png": drawn rather than shipped, so the build needs no binary file.

@@ -1,7 +1,7 @@
 // tabulon-skript: the window model without a window, driven by a script. See docs/skript.md.
 
+#include "files/ordner.h"
 #include "skript/aufruf.h"
-#include "skript/dokumente.h"
 #include "skript/skriptplattform.h"
 #include "skript/treiber.h"
 
@@ -30,13 +30,13 @@ int main(int argc, char** argv) {
     std::filesystem::path dokumente;
     if (aufruf.dokumente) {
         dokumente = *aufruf.dokumente;
-        if (!ordnerAnlegen(dokumente)) {
+        if (tabulon::ordnerAnlegen(dokumente) != 0) {
             std::cerr << "tabulon-skript: der Dokumente-Ordner " << *aufruf.dokumente
                       << " kann nicht angelegt werden\n";
             return 2;
         }
-    } else if (const auto standard = standardDokumentenOrdner()) {
-        // Created only when a command writes or reads a file, as the desktop program does.
+    } else if (const auto standard = tabulon::standardDokumentenOrdner()) {
+        // The same folder as the desktop program's, created only when a command writes a file.
         dokumente = *standard;
     }
 

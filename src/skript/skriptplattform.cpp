@@ -1,6 +1,5 @@
 #include "skript/skriptplattform.h"
 
-#include "skript/dokumente.h"
 #include "skript/zitat.h"
 #include "textmatrix/zahltext.h"
 
@@ -52,7 +51,7 @@ void SkriptPlattform::beenden(int status) {
 }
 
 std::optional<std::filesystem::path> SkriptPlattform::dokumentenOrdner() {
-    if (dokumente.empty() || !ordnerAnlegen(dokumente)) {
+    if (dokumente.empty()) {
         return std::nullopt;
     }
     return dokumente;

@@ -146,14 +146,26 @@ bool plusSchritt(Zeichenfeld& term, std::int64_t p) {
     return true;
 }
 
+// The index of the last `op` before index `vor`, or -1.
+std::int64_t letztesVor(const Zeichenfeld& term, std::string_view op, std::int64_t vor) {
+    for (auto i = vor - 1; i >= 0; --i) {
+        if (term[static_cast<std::size_t>(i)] == op) {
+            return i;
+        }
+    }
+    return -1;
+}
+
 // The common scheme of the stages: while the operator occurs, reduce at its last occurrence;
-// the first failing step ends the stage.
+// the first failing step ends the stage. A step at p leaves a name at p - 1 and no operator of
+// its stage from there on, so the next last occurrence lies before p - 1 and the search goes on
+// from there: one pass over the term for the whole stage.
 StufenErgebnis stufe(Zeichenfeld term, bool ok, std::string_view op,
                      bool (*schritt)(Zeichenfeld&, std::int64_t)) {
     if (!ok) {
         return {std::move(term), false};
     }
-    for (auto p = posVonZeichen(term, op); p >= 0; p = posVonZeichen(term, op)) {
+    for (auto p = posVonZeichen(term, op); p >= 0; p = letztesVor(term, op, p - 1)) {
         if (!schritt(term, p)) {
             return {std::move(term), false};
         }
@@ -229,33 +241,30 @@ NamenErgebnis termAuswerten(Zeichenfeld term, bool ok) {
     return {fehlerName, false};
 }
 
-std::pair<std::int64_t, std::int64_t> klammerkernEnden(const Zeichenfeld& feld) {
-    const std::int64_t links = posVonZeichen(feld, "(");
-    if (links < 0) {
-        return {0, 0};
-    }
-    for (auto i = links; i < static_cast<std::int64_t>(feld.size()); ++i) {
-        if (feld[static_cast<std::size_t>(i)] == ")") {
-            return {links, i};
+Zeichenfeld klammernAufloesen(Zeichenfeld term) {
+    // The term right of the scan, already freed of its brackets, back to front: back() is its
+    // first token.
+    Zeichenfeld rechts;
+    rechts.reserve(term.size());
+    for (auto i = term.size(); i-- > 0;) {
+        if (term[i] != "(") {
+            rechts.push_back(std::move(term[i]));
+            continue;
         }
+        // Every "(" right of this one is gone, so this is the last "(" of the term, and its core
+        // reaches to the first ")" after it.
+        Zeichenfeld kern;
+        while (!rechts.empty() && rechts.back() != ")") {
+            kern.push_back(std::move(rechts.back()));
+            rechts.pop_back();
+        }
+        if (rechts.empty()) {
+            return {fehlerName}; // unbalanced; parsen checks that before
+        }
+        // A failed core leaves "Fehler" behind, on which the enclosing evaluation fails.
+        rechts.back() = termAuswerten(std::move(kern), true).first;
     }
-    return {0, 0};
-}
-
-Zeichenfeld entkerne(Zeichenfeld feld) {
-    const auto [links, rechts] = klammerkernEnden(feld);
-    if (rechts <= links) {
-        // No complete bracket pair: nothing to take out. parsen never gets here, because it
-        // only calls this on balanced terms that hold brackets.
-        return feld;
-    }
-    Zeichenfeld kern(std::make_move_iterator(feld.begin() + links + 1),
-                     std::make_move_iterator(feld.begin() + rechts));
-    // A failed core leaves "Fehler" behind, on which the enclosing evaluation fails.
-    auto [name, ok] = termAuswerten(std::move(kern), true);
-    (void)ok;
-    ersetzen(feld, links, rechts, std::move(name));
-    return feld;
+    return {std::make_move_iterator(rechts.rbegin()), std::make_move_iterator(rechts.rend())};
 }
 
 NamenErgebnis parsen(std::string_view kette) {
@@ -268,8 +277,8 @@ NamenErgebnis parsen(std::string_view kette) {
     if (ok) {
         ok = klammernAusgewogen(t);
     }
-    while (ok && !klammerfrei(t)) {
-        t = entkerne(std::move(t));
+    if (ok) {
+        t = klammernAufloesen(std::move(t));
     }
     return termAuswerten(std::move(t), ok);
 }

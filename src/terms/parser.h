@@ -90,7 +90,6 @@ std::set<std::string> erlaubteNachfolger(const std::string& v);
 bool darfFolgen(const std::string& v, const std::string& w); // w in erlaubteNachfolger(v)
 bool formelKorrekt(const Zeichenfeld& feld);
 bool klammernAusgewogen(const Zeichenfeld& feld);
-bool klammerfrei(const Zeichenfeld& feld);
 
 // Evaluation. A name result is ("Fehler", false) on failure; a stage result is the reduced
 // term with its flag. A stage or termAuswerten called with ok false does nothing but fail.
@@ -103,9 +102,10 @@ using NamenErgebnis = std::pair<std::string, bool>;
 using StufenErgebnis = std::pair<Zeichenfeld, bool>;
 
 NamenErgebnis parsen(std::string_view kette);
-// Indices of the last "(" and of the first ")" after it; (0, 0) when there is no such pair.
-std::pair<std::int64_t, std::int64_t> klammerkernEnden(const Zeichenfeld& feld);
-Zeichenfeld entkerne(Zeichenfeld feld);
+// Evaluates every bracket core of a balanced term and puts its result name in its place: the
+// core of the last "(" (up to the first ")" after it) first, then again in what is left, so the
+// innermost, rightmost core goes first. Done in one pass from the right.
+Zeichenfeld klammernAufloesen(Zeichenfeld term);
 NamenErgebnis termAuswerten(Zeichenfeld term, bool ok);
 StufenErgebnis potenzenAuswerten(Zeichenfeld term, bool ok);
 StufenErgebnis malAuswerten(Zeichenfeld term, bool ok);

@@ -135,13 +135,4 @@ bool klammernAusgewogen(const Zeichenfeld& feld) {
     return nieNegativ && tiefe == 0;
 }
 
-bool klammerfrei(const Zeichenfeld& feld) {
-    for (const auto& zeichen : feld) {
-        if (zeichen == "(" || zeichen == ")") {
-            return false;
-        }
-    }
-    return true;
-}
-
 } // namespace tabulon

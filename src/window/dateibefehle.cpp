@@ -39,7 +39,8 @@ void ViewController::laden() {
             return;
         }
     }
-    const auto [gelesen, text] = lesen(plattform.dokumentenOrdner(), "Matrix_" + listenDateiName);
+    const auto [gelesen, text] =
+        lesen(plattform.dokumentenOrdner(), "Matrix_" + listenDateiName, groessteListendatei);
     if (!gelesen) {
         notiz(text);
         plattform.piep();

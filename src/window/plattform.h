@@ -27,8 +27,21 @@ public:
     virtual std::uint32_t zufallUnter(std::uint32_t grenze) = 0;
     // Ends the process at once with this status. An implementation for tests may return.
     virtual void beenden(int status) = 0;
-    // The user's documents folder, created when missing; nothing when it cannot be determined.
+    // The user's documents folder; nothing when it cannot be determined. It is only named here:
+    // the file writer creates it when missing and reports a folder that cannot be created.
     virtual std::optional<std::filesystem::path> dokumentenOrdner() = 0;
+
+    // A long command reports its progress: `fertig` of `gesamt` runs are done. Returning false
+    // asks it to stop after this run. Called after every run but the last, so it must be cheap;
+    // a window shows something only when the command lasts long enough for a user to notice.
+    // By default the command runs to its end unasked.
+    virtual bool fortschritt(std::int64_t fertig, std::int64_t gesamt) {
+        (void)fertig;
+        (void)gesamt;
+        return true;
+    }
+    // The command whose progress was reported has ended, completed or stopped.
+    virtual void fortschrittEnde() {}
 };
 
 } // namespace tabulon

@@ -90,9 +90,11 @@ void ViewController::parsNfachStart() {
         ok = false;
     }
 
+    // The runs done; fewer than zaehler when the user stopped the command.
+    std::int64_t laeufe = 0;
     if (ok) {
         zustand.r = doubleWert(skalarF);
-        for (std::int64_t lauf = 0; lauf < liste.zaehler; ++lauf) {
+        while (laeufe < liste.zaehler) {
             const auto [ergebnis, gelungen] = parsen(term);
             ok = gelungen;
             if (ok) {
@@ -101,11 +103,20 @@ void ViewController::parsNfachStart() {
             // In the first run a temporary may have taken the still free target letter; the
             // target keeps its entry all the same.
             tempNamenEntfernen(name);
+            ++laeufe;
+            if (laeufe < liste.zaehler && !plattform.fortschritt(laeufe, liste.zaehler)) {
+                break;
+            }
         }
+        plattform.fortschrittEnde();
     }
+    const std::string abbruch = laeufe < liste.zaehler && laeufe > 0
+                                    ? "Nach " + ganzText(laeufe) + " von " +
+                                          ganzText(liste.zaehler) + " Läufen abgebrochen."
+                                    : "";
 
     if (!ok) {
-        notiz(zustand.fehlerListe + misslungen);
+        notiz(zustand.fehlerListe + misslungen + (abbruch.empty() ? "" : " " + abbruch));
         zustand.fehlerListe.clear();
         plattform.piep();
         return;
@@ -115,8 +126,10 @@ void ViewController::parsNfachStart() {
     schreibStringMatrix();
     refreshMatrixView();
     fensterPutz();
-    notiz("Das Ergebnis der Berechnung von " + name + " wird im Eingabe-Tableau angezeigt");
-    ausgabe("Die " + ganzText(liste.zaehler) + "-malige Auswertung des Terms " + term +
+    // A stopped command names the runs it did, in the note and in the protocol.
+    notiz((abbruch.empty() ? "" : abbruch + " ") + "Das Ergebnis der Berechnung von " + name +
+          " wird im Eingabe-Tableau angezeigt");
+    ausgabe("Die " + ganzText(laeufe) + "-malige Auswertung des Terms " + term +
             " ergibt: " + name + " = \n\n" + m.string());
 }
 

@@ -1,8 +1,7 @@
-// The driver's random source, its documents folder and its run over whole scripts: which names it
+// The driver's random source and its run over whole scripts: which names it
 // knows and where a script stops.
 
 #include "app/appdelegate.h"
-#include "skript/dokumente.h"
 #include "skript/skriptplattform.h"
 #include "skript/treiber.h"
 #include "skript/zufall.h"
@@ -13,6 +12,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <sstream>
 
 namespace tabulon::skript {
@@ -29,26 +30,17 @@ TEST(Zufall, StaysBelowTheBound) {
     }
 }
 
-// A transcript shows $XDG_DOCUMENTS_DIR taking precedence; here what is used without it. Changes
-// the environment for good; no other test of this program reads it.
-TEST(Dokumente, FallsBackToHome) {
-    setenv("XDG_DOCUMENTS_DIR", "", 1);
-    setenv("HOME", "/h", 1);
-    EXPECT_EQ(standardDokumentenOrdner(), std::filesystem::path("/h/Documents"));
-    unsetenv("XDG_DOCUMENTS_DIR");
-    unsetenv("HOME");
-    EXPECT_EQ(standardDokumentenOrdner(), std::nullopt);
-}
-
-// Runs the script without a documents folder and returns (exit status, output, error output).
-std::tuple<int, std::string, std::string> lauf(const std::string& skript) {
+// Runs the script, by default without a documents folder, and returns (exit status, output,
+// error output).
+std::tuple<int, std::string, std::string> lauf(const std::string& skript,
+                                               const std::filesystem::path& dokumente = {}) {
     listenZustandZuruecksetzen();
     tableauZustandZuruecksetzen();
     protokollZustandZuruecksetzen();
     termZustandZuruecksetzen();
     std::ostringstream aus;
     std::ostringstream fehler;
-    SkriptPlattform p(aus, 1, {}, [](int) {});
+    SkriptPlattform p(aus, 1, dokumente, [](int) {});
     Treiber t(p);
     std::istringstream ein(skript);
     const int status = t.lauf(ein, fehler, "test.skript");
@@ -91,6 +83,26 @@ TEST(Treiber, KnowsEveryButtonAndMenuAction) {
     EXPECT_EQ(status, 0);
     EXPECT_EQ(fehler, "");
     EXPECT_EQ(("\n" + aus).find("\nende "), std::string::npos);
+}
+
+// A documents folder that is known but cannot be created (a file stands in its place) is a
+// failed write, never a success note.
+TEST(Treiber, DokumentenOrdnerDerNichtAngelegtWerdenKann) {
+    std::string muster = (std::filesystem::temp_directory_path() / "tabulon-XXXXXX").string();
+    const std::filesystem::path ordner = mkdtemp(muster.data());
+    std::ofstream(ordner / "Documents") << "eine Datei";
+    const auto [status, aus, fehler] =
+        lauf("antwort \"Ja\"\nmenue speichernM\nzeige notizF\nmenue ladenM\nzeige notizF\n",
+             ordner / "Documents");
+    EXPECT_EQ(status, 0);
+    const std::string url = "file://" + ordner.string() + "/Documents/Matrix_MatDats.txt";
+    EXPECT_NE(aus.find("notizF \"Failed writing to URL: " + url +
+                       ", Error: Not a directory\"\npiep\n"
+                       "notizF \"Keine Datei mit gespeicherten Matrizen im Dokumenten-Ordner "
+                       "gefunden.\"\n"),
+              std::string::npos)
+        << aus;
+    std::filesystem::remove_all(ordner);
 }
 
 } // namespace

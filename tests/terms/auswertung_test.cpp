@@ -7,8 +7,12 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <functional>
+#include <memory>
+#include <random>
 #include <set>
 #include <string>
+#include <string_view>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -96,6 +100,73 @@ TEST_F(Auswertung, VorrangTemporaereUndFehler) {
         EXPECT_TRUE(termZustand().tempNamen.empty()) << term;
         EXPECT_EQ(listenZustand().sMatrixListe, vorher.sMatrixListe) << term;
         EXPECT_EQ(listenZustand().smNamen, vorher.smNamen) << term;
+    }
+}
+
+// Bracket cores the plain way: take the last "(" and the first ")" after it, evaluate the core,
+// put its name in its place, scan again.
+NamenErgebnis kernweiseReferenz(std::string_view kette) {
+    const Zeichenfeld feld = string2ZeichenFeld(kette);
+    Zeichenfeld t = gereinigt(feld);
+    if (!formelKorrekt(feld)) {
+        termZustand().fehlerListe = syntaxFehler;
+        return {fehlerName, false};
+    }
+    if (!klammernAusgewogen(t)) {
+        return {fehlerName, false};
+    }
+    for (auto links = posVonZeichen(t, "("); links >= 0; links = posVonZeichen(t, "(")) {
+        auto rechts = links;
+        while (t[static_cast<std::size_t>(rechts)] != ")") {
+            ++rechts;
+        }
+        Zeichenfeld kern(t.begin() + links + 1, t.begin() + rechts);
+        t[static_cast<std::size_t>(links)] = termAuswerten(std::move(kern), true).first;
+        t.erase(t.begin() + links + 1, t.begin() + rechts + 1);
+    }
+    return termAuswerten(std::move(t), true);
+}
+
+// Random bracketed terms: the one-pass bracket removal evaluates the same cores in the same order
+// as the plain one, so both leave the same temporaries under the same names, the same messages
+// and the same result. 2 x 2 values make the order of every step visible in the entries.
+TEST_F(Auswertung, KlammernInEinemDurchgangWieKernweise) {
+    std::mt19937 zufall(15);
+    const auto wahl = [&zufall](int n) {
+        return static_cast<int>(zufall() % static_cast<unsigned>(n));
+    };
+    std::function<std::string(int)> term = [&](int tiefe) {
+        std::string t;
+        const int faktoren = 1 + wahl(3);
+        for (int k = 0; k < faktoren; ++k) {
+            if (k > 0) {
+                t += "+-*"[wahl(3)];
+            }
+            t += tiefe > 0 && wahl(2) == 0 ? "(" + term(tiefe - 1) + ")"
+                                           : std::string(1, "ABCQ"[wahl(4)]);
+            if (wahl(4) == 0) {
+                t += wahl(2) == 0 ? "^2" : "^-1";
+            }
+        }
+        return t;
+    };
+    for (int fall = 0; fall < 300; ++fall) {
+        std::string t = term(4);
+        // No ")" may follow a ")": close with a power instead.
+        for (auto p = t.find("))"); p != std::string::npos; p = t.find("))")) {
+            t.insert(p + 1, "^1");
+        }
+        const auto lauf = [&t](auto auswerten) {
+            neu();
+            lege("A", sm(2, 2, {"1", "2", "3", "4"}));
+            lege("B", sm(2, 2, {"0", "1", "1", "1"}));
+            lege("C", sm(2, 2, {"2", "0", "1", "0.5"}));
+            lege("Q", sm(2, 3, {"1", "2", "3", "4", "5", "6"}));
+            const NamenErgebnis ergebnis = auswerten(t);
+            return std::tuple{ergebnis, listenZustand().sMatrixListe, termZustand().tempNamen,
+                              termZustand().fehlerListe};
+        };
+        EXPECT_EQ(lauf(parsen), lauf(kernweiseReferenz)) << t;
     }
 }
 
@@ -194,6 +265,52 @@ TEST_F(Auswertung, NfachZielErhaeltErgebnisOperandenBleiben) {
         }
         EXPECT_TRUE(termZustand().tempNamen.empty());
     }
+}
+
+// A long n-fold run reports after every run but the last; asked to stop, it stops after the
+// current run, the target keeps the last completed run's value, and the note and the protocol
+// name the runs done. A failing term stopped the same way says so after its failure note.
+TEST_F(Auswertung, NfachLaufAnhalten) {
+    const auto lauf = [](const char* term, const char* n, std::int64_t anhalten) {
+        neu();
+        lege("A", sm(1, 1, {"0"}));
+        lege("B", sm(1, 1, {"1"}));
+        lege("C", sm(1, 2, {"1", "2"}));
+        auto plattform = std::make_unique<TestPlattform>();
+        plattform->anhaltenNach = anhalten;
+        ViewController vc(*plattform);
+        vc.eingabeFb = "A";
+        vc.eingabeF = term;
+        vc.zaehlF = n;
+        vc.parsNfachStart();
+        EXPECT_TRUE(termZustand().tempNamen.empty());
+        EXPECT_EQ(listenZustand().sMatrixListe.size(), 3u);
+        EXPECT_EQ(plattform->fortschrittEnden, 1);
+        return std::pair{std::move(plattform), vc.notizF};
+    };
+
+    auto [ganz, ganzNotiz] = lauf("A+B", "4", 0);
+    EXPECT_EQ(ganz->fortschritte, (std::vector<std::int64_t>{1, 2, 3}));
+    EXPECT_EQ(ganzNotiz, "Das Ergebnis der Berechnung von A wird im Eingabe-Tableau angezeigt");
+    EXPECT_EQ(listenZustand().sMatrixListe.at("A"), sm(1, 1, {"4.0"}));
+
+    auto [halt, haltNotiz] = lauf("A+B", "1e18", 3);
+    EXPECT_EQ(halt->fortschritte, (std::vector<std::int64_t>{1, 2, 3}));
+    EXPECT_TRUE(halt->ereignisse.empty());
+    EXPECT_EQ(haltNotiz, "Nach 3 von 1000000000000000000 Läufen abgebrochen. Das Ergebnis der "
+                         "Berechnung von A wird im Eingabe-Tableau angezeigt");
+    EXPECT_EQ(listenZustand().sMatrixListe.at("A"), sm(1, 1, {"3.0"}));
+    EXPECT_EQ(protokollZustand().protokoll.back().rfind("Die 3-malige Auswertung des Terms A+B "
+                                                        "ergibt: A = \n\n",
+                                                        0),
+              0u);
+
+    auto [fehler, fehlerNotiz] = lauf("C*A", "5", 2);
+    EXPECT_EQ(fehlerNotiz, produktFehler + produktFehler +
+                               "Die Formel konnte nicht ausgewertet werden. Nach 2 von 5 Läufen "
+                               "abgebrochen.");
+    EXPECT_EQ(fehler->ereignisse, std::vector<std::string>{"piep"});
+    EXPECT_EQ(listenZustand().sMatrixListe.at("A"), sm(1, 1, {"0"}));
 }
 
 } // namespace

@@ -17,8 +17,11 @@ namespace tabulon {
 
 class TestPlattform : public Plattform {
 public:
-    std::vector<std::string> ereignisse; // "piep", "frage <message>"
-    std::deque<std::uint32_t> zufall;    // the next random numbers; empty: 0
+    std::vector<std::string> ereignisse;    // "piep", "frage <message>"
+    std::deque<std::uint32_t> zufall;       // the next random numbers; empty: 0
+    std::int64_t anhaltenNach = 0;          // asks a long command to stop after that many runs
+    std::vector<std::int64_t> fortschritte; // the runs done, as each report gave them
+    int fortschrittEnden = 0;
 
     void piep() override { ereignisse.push_back("piep"); }
     int frage(const std::string& nachricht, const std::string&, const std::string&) override {
@@ -35,6 +38,12 @@ public:
     }
     void beenden(int) override {}
     std::optional<std::filesystem::path> dokumentenOrdner() override { return std::nullopt; }
+    bool fortschritt(std::int64_t fertig, std::int64_t gesamt) override {
+        EXPECT_LT(fertig, gesamt);
+        fortschritte.push_back(fertig);
+        return fertig != anhaltenNach;
+    }
+    void fortschrittEnde() override { ++fortschrittEnden; }
 };
 
 class FensterTest : public ::testing::Test {
