@@ -1,0 +1,20 @@
+#pragma once
+// The overview of every key the main window knows: the menus' shortcuts, read from the menu bar
+// itself so that the list cannot fall behind it, and the keys the fields and the tableau handle.
+
+#include <QDialog>
+#include <QString>
+
+class QMenuBar;
+
+namespace tabulon {
+
+// The overview as an HTML table, in German, the key names as the desktop writes them.
+QString tastenkuerzelHtml(const QMenuBar& menues);
+
+class Tastenkuerzelfenster : public QDialog {
+public:
+    Tastenkuerzelfenster(const QMenuBar& menues, QWidget* eltern);
+};
+
+} // namespace tabulon
