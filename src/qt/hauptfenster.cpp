@@ -67,7 +67,7 @@ Hauptfenster::Hauptfenster(ViewController& vc, AppDelegate& delegate, QtPlattfor
     // up to 19 characters, and the message area below shows a protocol page of an 8 x 8 matrix
     // without wrapping. The message area takes the height that is left.
     auto* ganz = new QVBoxLayout(hintergrund);
-    ganz->setContentsMargins(10, 6, 10, 6);
+    ganz->setContentsMargins(8, 6, 8, 6);
     ganz->setSpacing(5);
     QWidget* ausgabe = baueAusgabe(); // first: the page row's label names it
     ganz->addWidget(baueNamenszeile());
