@@ -139,6 +139,15 @@ private slots:
                 QVERIFY2(b.layout()->lineCount() <= 1, qPrintable(b.text()));
             }
             QVERIFY(ausgabe->horizontalScrollBar()->maximum() > 0);
+            // Tab stops every 8 characters of a fixed-width font, as an editor shows the saved
+            // protocol: "369.000000<tab>504.000000" puts 504 at column 16.
+            const QFontMetricsF masse(ausgabe->font());
+            const qreal zeichen = masse.horizontalAdvance(QLatin1Char(' '));
+            for (const char c : {'i', 'M', '0', '-', '.'}) {
+                QCOMPARE(masse.horizontalAdvance(QLatin1Char(c)), zeichen);
+            }
+            QCOMPARE(ausgabe->tabStopDistance(), 8 * zeichen);
+            QVERIFY(ausgabe->tabChangesFocus());
         }
     }
 
