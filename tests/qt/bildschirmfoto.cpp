@@ -2,6 +2,7 @@
 // device-independent pixels) in one of the situations a user meets, and saves what it looks like.
 //   inverse3  a 3 x 3 matrix stored as A and inverted, with the protocol page of the inverse
 //   inverse8  the same for a fixed 8 x 8 matrix of random integers
+//   markiert  a 2 x 3 matrix with a decimal comma and a fraction, which count as 0
 //   hilfe     the help window
 // The matrices are fixed, so that pictures taken on different days can be compared.
 
@@ -23,7 +24,8 @@ int main(int argc, char** argv) {
     QApplication programm(argc, argv);
     tabulon::deutscheQtTexteLaden(programm);
     if (argc < 5) {
-        std::fputs("bildschirmfoto inverse3|inverse8|hilfe BREITE HOEHE BILD.png\n", stderr);
+        std::fputs("bildschirmfoto inverse3|inverse8|markiert|hilfe BREITE HOEHE BILD.png\n",
+                   stderr);
         return 2;
     }
     const std::string szene = argv[1];
@@ -58,6 +60,15 @@ int main(int argc, char** argv) {
                 vc.zelle(i, j).text = std::to_string(verteilung(zufall));
             }
         }
+    }
+    if (szene == "markiert") {
+        const char* eintraege[2][3] = {{"1,5", "2", "1/2"}, {"4", "-0.25", "x"}};
+        for (int i = 0; i < 2; ++i) {
+            for (int j = 0; j < 3; ++j) {
+                vc.zelle(i, j).text = eintraege[i][j];
+            }
+        }
+        fenster.ausModell();
     }
     if (n > 0) {
         vc.eingabeFb = "a";
