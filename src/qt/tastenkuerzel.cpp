@@ -1,7 +1,9 @@
 #include "qt/tastenkuerzel.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
@@ -28,7 +30,7 @@ QString taste(const QKeySequence& folge) {
 
 } // namespace
 
-QString tastenkuerzelHtml(const QMenuBar& menues) {
+QString tastenkuerzelHtml(const QMenuBar& menues, const QWidget& fenster) {
     QString html = QStringLiteral("<h3>Menüs</h3><table>");
     for (QAction* oben : menues.actions()) {
         const QMenu* menue = oben->menu();
@@ -48,7 +50,7 @@ QString tastenkuerzelHtml(const QMenuBar& menues) {
     html += QStringLiteral("</table><h3>Im Fenster</h3><table>");
     const QString eingabe = taste(QKeySequence(Qt::Key_Return));
     const QString tab = taste(QKeySequence(Qt::Key_Tab));
-    const std::pair<QString, QString> fenster[] = {
+    const std::pair<QString, QString> imFenster[] = {
         {taste(QKeySequence(Qt::Key_F10)), QStringLiteral("Menüleiste öffnen")},
         {QStringLiteral("Alt+Buchstabe"),
          QStringLiteral("Menü oder Feld mit dem unterstrichenen Buchstaben")},
@@ -61,8 +63,28 @@ QString tastenkuerzelHtml(const QMenuBar& menues) {
          QStringLiteral("Nächstes, voriges Feld; im Tableau die Zelle rechts, links")},
         {QStringLiteral("Leertaste"), QStringLiteral("Knopf mit dem Tastaturfokus drücken")},
     };
-    for (const auto& [tasten, wirkung] : fenster) {
+    for (const auto& [tasten, wirkung] : imFenster) {
         html += zeile(tasten, wirkung);
+    }
+    const auto buchstabe = [](const QString& titel) {
+        const qsizetype stelle = titel.indexOf(QLatin1Char('&'));
+        return stelle >= 0 && stelle + 1 < titel.size() ? titel.at(stelle + 1).toUpper() : QChar();
+    };
+    for (const QLabel* titel : fenster.findChildren<QLabel*>()) {
+        const QChar b = buchstabe(titel->text());
+        if (titel->buddy() && !b.isNull()) {
+            html += zeile(QStringLiteral("Alt+") + b, QStringLiteral("Zum Feld '") +
+                                                          ohneKuerzelzeichen(titel->text()) +
+                                                          QLatin1Char('\''));
+        }
+    }
+    for (const QCheckBox* kasten : fenster.findChildren<QCheckBox*>()) {
+        const QChar b = buchstabe(kasten->text());
+        if (!b.isNull()) {
+            html += zeile(QStringLiteral("Alt+") + b,
+                          QStringLiteral("'") + ohneKuerzelzeichen(kasten->text()) +
+                              QStringLiteral("' ein- oder ausschalten"));
+        }
     }
     html += QStringLiteral("</table><h3>Im Tableau</h3><table>");
     const std::pair<QString, QString> tableau[] = {
@@ -80,14 +102,14 @@ QString tastenkuerzelHtml(const QMenuBar& menues) {
     return html + QStringLiteral("</table>");
 }
 
-Tastenkuerzelfenster::Tastenkuerzelfenster(const QMenuBar& menues, QWidget* eltern)
-    : QDialog(eltern) {
+Tastenkuerzelfenster::Tastenkuerzelfenster(const QMenuBar& menues, QWidget* fenster)
+    : QDialog(fenster) {
     setObjectName(QStringLiteral("Tastenkuerzel"));
     setWindowTitle(QStringLiteral("Tabulon Tastenkürzel"));
     setAttribute(Qt::WA_DeleteOnClose);
     auto* text = new QTextBrowser;
     text->setObjectName(QStringLiteral("tastenkuerzelF"));
-    text->setHtml(tastenkuerzelHtml(menues));
+    text->setHtml(tastenkuerzelHtml(menues, *fenster));
     auto* knoepfe = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(knoepfe, &QDialogButtonBox::rejected, this, &QDialog::close);
     auto* spalte = new QVBoxLayout(this);

@@ -9,12 +9,13 @@ class QMenuBar;
 
 namespace tabulon {
 
-// The overview as an HTML table, in German, the key names as the desktop writes them.
-QString tastenkuerzelHtml(const QMenuBar& menues);
+// The overview as an HTML table, in German, the key names as the desktop writes them. The
+// access letters of the window's labels and check boxes are read from `fenster`.
+QString tastenkuerzelHtml(const QMenuBar& menues, const QWidget& fenster);
 
 class Tastenkuerzelfenster : public QDialog {
 public:
-    Tastenkuerzelfenster(const QMenuBar& menues, QWidget* eltern);
+    Tastenkuerzelfenster(const QMenuBar& menues, QWidget* fenster);
 };
 
 } // namespace tabulon

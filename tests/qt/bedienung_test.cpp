@@ -303,7 +303,7 @@ private slots:
     // every shortcut of the menus; the file entries name the documents folder.
     void menuesUndUebersicht() {
         Aufbau a;
-        const QString uebersicht = tastenkuerzelHtml(*a.fenster->menuBar());
+        const QString uebersicht = tastenkuerzelHtml(*a.fenster->menuBar(), *a.fenster);
         std::set<QChar> oben;
         for (QAction* menueAktion : a.fenster->menuBar()->actions()) {
             const QString titel = menueAktion->text();
@@ -325,6 +325,7 @@ private slots:
                 }
             }
         }
+        QVERIFY(uebersicht.contains(QStringLiteral("<b>Alt+N</b></td><td>Zum Feld 'Name'")));
         QVERIFY(uebersicht.contains(QStringLiteral("Strg+Return")) ||
                 uebersicht.contains(QStringLiteral("Strg+Eingabe")));
 
