@@ -1,6 +1,7 @@
 #pragma once
-// The overview of every key the main window knows: the menus' shortcuts, read from the menu bar
-// itself so that the list cannot fall behind it, and the keys the fields and the tableau handle.
+// The overview of every key the main window knows: the menus' shortcuts and the access letters of
+// the window's fields, read from the menu bar and the window themselves so that the list cannot
+// fall behind them, and the keys the fields and the tableau handle.
 
 #include <QDialog>
 #include <QString>
