@@ -274,10 +274,10 @@ QWidget* Hauptfenster::baueSeitenzeile() {
     reihe->setContentsMargins(0, 0, 0, 0);
     const int kante = fontMetrics().height() + 10;
     auto* zurueck = knopf(QStringLiteral("^"), "protoDown",
-                          QStringLiteral("Eine Seite zurück (Strg+Bild auf)"));
+                          QStringLiteral("Eine Seite zurück (Strg+Bild aufwärts)"));
     zurueck->setFixedWidth(kante + 6);
     auto* vor =
-        knopf(QStringLiteral("^"), "protoUp", QStringLiteral("Eine Seite vor (Strg+Bild ab)"));
+        knopf(QStringLiteral("^"), "protoUp", QStringLiteral("Eine Seite vor (Strg+Bild abwärts)"));
     vor->setFixedWidth(kante + 6);
     // The label names the message area below and gives it the keyboard focus with Alt+P.
     reihe->addWidget(beschriftung(QStringLiteral("&Protokoll"), ausgabeF));

@@ -4,6 +4,7 @@
 //   inverse8  the same for a fixed 8 x 8 matrix of random integers
 //   markiert  a 2 x 3 matrix with a decimal comma and a fraction, which count as 0
 //   hilfe     the help window
+//   kuerzel   the overview of the shortcuts
 // The matrices are fixed, so that pictures taken on different days can be compared.
 
 #include "app/appdelegate.h"
@@ -24,8 +25,9 @@ int main(int argc, char** argv) {
     QApplication programm(argc, argv);
     tabulon::deutscheQtTexteLaden(programm);
     if (argc < 5) {
-        std::fputs("bildschirmfoto inverse3|inverse8|markiert|hilfe BREITE HOEHE BILD.png\n",
-                   stderr);
+        std::fputs(
+            "bildschirmfoto inverse3|inverse8|markiert|hilfe|kuerzel BREITE HOEHE BILD.png\n",
+            stderr);
         return 2;
     }
     const std::string szene = argv[1];
@@ -80,6 +82,18 @@ int main(int argc, char** argv) {
     // Leaving must not ask whether to leave a list with a matrix in it.
     plattform.beendetSich = true;
     QTimer::singleShot(400, &fenster, [&] {
+        if (szene == "kuerzel") {
+            fenster.tastenkuerzelZeigen();
+            QTimer::singleShot(400, &fenster, [&] {
+                for (QWidget* w : QApplication::topLevelWidgets()) {
+                    if (w->objectName() == QLatin1String("Tastenkuerzel")) {
+                        w->grab().save(datei);
+                    }
+                }
+                QApplication::quit();
+            });
+            return;
+        }
         if (szene == "hilfe") {
             fenster.hilfeOeffnen();
             // Leaving must not ask whether to leave a list with a matrix in it.
