@@ -10,7 +10,8 @@ build=${1:?build directory}
 shift
 
 pakete=(build-essential cmake ninja-build googletest libgtest-dev libgmock-dev libbenchmark-dev
-        qt6-base-dev locales clang libclang-rt-14-dev libgmp-dev libflint-dev libflint-arb-dev)
+        qt6-base-dev qt6-translations-l10n locales clang libclang-rt-14-dev libgmp-dev
+        libflint-dev libflint-arb-dev)
 
 als_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi

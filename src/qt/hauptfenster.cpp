@@ -5,9 +5,11 @@
 #include "qt/myview.h"
 #include "qt/qtplattform.h"
 #include "qt/tableauwidget.h"
+#include "textmatrix/liste.h"
 #include "window/viewcontroller.h"
 
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -61,27 +63,20 @@ Hauptfenster::Hauptfenster(ViewController& vc, AppDelegate& delegate, QtPlattfor
     auto* hintergrund = new MyView([this] { this->plattform.piep(); });
     hintergrund->setObjectName(QStringLiteral("MyView"));
 
-    auto* links = new QVBoxLayout;
-    links->addWidget(baueNamenszeile());
-    // The commands follow the tableau directly; the free height collects above the note line,
-    // which stays at the bottom next to the settings.
-    links->addWidget(baueTableau());
-    links->addSpacing(8);
-    links->addWidget(baueTermzeile());
-    links->addWidget(baueWerkzeugzeile());
-    links->addStretch(1);
-    notizF = feld("notizF", &ViewController::notizF);
-    notizF->setReadOnly(true);
-    notizF->setFocusPolicy(Qt::NoFocus);
-    notizF->setToolTip(QStringLiteral("Hinweise der Anweisungen"));
-    links->addWidget(notizF);
-    links->addWidget(baueFusszeile());
-
-    auto* ganz = new QHBoxLayout(hintergrund);
-    ganz->setContentsMargins(12, 10, 12, 10);
-    ganz->setSpacing(16);
-    ganz->addLayout(links, 0);
-    ganz->addWidget(baueProtokoll(), 1);
+    // One column over the whole width: the tableau needs every pixel of it for eight results of
+    // up to 19 characters, and the message area below shows a protocol page of an 8 x 8 matrix
+    // without wrapping. The message area takes the height that is left.
+    auto* ganz = new QVBoxLayout(hintergrund);
+    ganz->setContentsMargins(8, 6, 8, 6);
+    ganz->setSpacing(5);
+    QWidget* ausgabe = baueAusgabe(); // first: the page row's label names it
+    ganz->addWidget(baueNamenszeile());
+    ganz->addWidget(baueTableau());
+    ganz->addWidget(baueTermzeile());
+    ganz->addWidget(baueWerkzeugzeile());
+    ganz->addWidget(baueSeitenzeile());
+    ganz->addWidget(ausgabe, 1);
+    ganz->addWidget(baueFusszeile());
     setCentralWidget(hintergrund);
     baueMenue();
 
@@ -124,56 +119,71 @@ QWidget* Hauptfenster::baueNamenszeile() {
     auto* reihe = new QHBoxLayout(zeile);
     reihe->setContentsMargins(0, 0, 0, 0);
     eingabeFb = feld("eingabeFb", &ViewController::eingabeFb);
-    eingabeFb->setToolTip(QStringLiteral("Name der Matrix, ein Buchstabe A ... Z"));
+    eingabeFb->setToolTip(QStringLiteral("Name der Matrix, ein Buchstabe A ... Z; "
+                                         "die Eingabetaste trägt die Tableau-Matrix ein"));
     eingabeFb->setAutoFillBackground(true);
     zeichenBreit(eingabeFb, 4);
-    reihe->addWidget(beschriftung(QStringLiteral("Name"), eingabeFb));
+    connect(eingabeFb, &QLineEdit::returnPressed, this, [this] { fensterAktion("einlistB"); });
+    reihe->addWidget(beschriftung(QStringLiteral("&Name"), eingabeFb));
     reihe->addWidget(eingabeFb);
     reihe->addWidget(knopf(QStringLiteral("<-"), "einlistB",
-                           QStringLiteral("Tableau-Matrix unter <Name> in die Liste eintragen")));
+                           QStringLiteral("Tableau-Matrix unter <Name> in die Liste eintragen "
+                                          "(Alt+Links)")));
     reihe->addWidget(knopf(QStringLiteral("->"), "name2SMatrixB",
-                           QStringLiteral("Matrix <Name> aus der Liste ins Tableau kopieren")));
+                           QStringLiteral("Matrix <Name> aus der Liste ins Tableau kopieren "
+                                          "(Alt+Rechts)")));
     reihe->addWidget(
         knopf(QStringLiteral("Matrixnamen zuweisen"), "freierMatrixNameB",
               QStringLiteral("Tableau-Matrix unter dem ersten freien Namen eintragen")));
     reihe->addWidget(knopf(QStringLiteral("Lösche <Name>"), "auslistB",
                            QStringLiteral("Matrix <Name> aus der Liste löschen")));
-    reihe->addStretch(1);
+    reihe->addSpacing(12);
+
+    mListeF = feld("mListeF", &ViewController::mListeF);
+    mListeF->setReadOnly(true);
+    mListeF->setToolTip(QStringLiteral("Namen aller Matrizen der Liste"));
+    mListeF->setMinimumWidth(mListeF->fontMetrics().horizontalAdvance(QLatin1Char('M')) * 8);
+    reihe->addWidget(beschriftung(QStringLiteral("L&iste"), mListeF));
+    reihe->addWidget(mListeF, 1);
+    infoUndHilfeB = new QPushButton;
+    infoUndHilfeB->setObjectName(QStringLiteral("infoUndHilfeB"));
+    infoUndHilfeB->setAutoDefault(false);
+    infoUndHilfeB->setToolTip(QStringLiteral("Erläuterungen zu allen Anweisungen (F1)"));
+    connect(infoUndHilfeB, &QPushButton::clicked, this, &Hauptfenster::hilfeOeffnen);
+    reihe->addWidget(infoUndHilfeB);
     return zeile;
 }
 
 QWidget* Hauptfenster::baueTableau() {
     auto* bereich = new QWidget;
-    auto* gitter = new QGridLayout(bereich);
-    gitter->setContentsMargins(0, 6, 0, 6);
+    auto* reihe = new QHBoxLayout(bereich);
+    reihe->setContentsMargins(0, 4, 0, 4);
     tableau = new TableauWidget(vc);
     tableau->setObjectName(QStringLiteral("tableau"));
     tableau->nachEinfuegen = [this] { ausModell(); };
-    gitter->addWidget(tableau, 0, 0);
+    reihe->addWidget(tableau, 1);
 
-    // The size buttons are small squares beside and below the cells they grow or shrink.
-    const int kante = fontMetrics().height() + 12;
+    // The size buttons are small squares in one column beside the cells: a row below the grid
+    // would cost the message area its height on a small screen.
+    const int kante = fontMetrics().height() + 10;
     const auto klein = [kante](QPushButton* k) {
         k->setFixedSize(kante, kante);
         return k;
     };
-    auto* spalten = new QVBoxLayout;
-    spalten->addStretch(1);
-    spalten->addWidget(
-        klein(knopf(QStringLiteral(">"), "cplusB", QStringLiteral("Spalte anhängen"))));
-    spalten->addWidget(
-        klein(knopf(QStringLiteral("<"), "cminusB", QStringLiteral("Letzte Spalte entfernen"))));
-    spalten->addStretch(1);
-    gitter->addLayout(spalten, 0, 1);
-
-    auto* zeilen = new QHBoxLayout;
-    zeilen->addStretch(1);
-    zeilen->addWidget(
-        klein(knopf(QStringLiteral("v"), "rplusB", QStringLiteral("Zeile anhängen"))));
-    zeilen->addWidget(
-        klein(knopf(QStringLiteral("^"), "rminusB", QStringLiteral("Letzte Zeile entfernen"))));
-    zeilen->addStretch(1);
-    gitter->addLayout(zeilen, 1, 0);
+    auto* knoepfe = new QVBoxLayout;
+    knoepfe->setSpacing(3);
+    knoepfe->addWidget(klein(knopf(QStringLiteral(">"), "cplusB",
+                                   QStringLiteral("Spalte anhängen (Alt+Umschalt+Rechts)"))));
+    knoepfe->addWidget(
+        klein(knopf(QStringLiteral("<"), "cminusB",
+                    QStringLiteral("Letzte Spalte entfernen (Alt+Umschalt+Links)"))));
+    knoepfe->addSpacing(kante / 2);
+    knoepfe->addWidget(klein(knopf(QStringLiteral("v"), "rplusB",
+                                   QStringLiteral("Zeile anhängen (Alt+Umschalt+Runter)"))));
+    knoepfe->addWidget(klein(knopf(QStringLiteral("^"), "rminusB",
+                                   QStringLiteral("Letzte Zeile entfernen (Alt+Umschalt+Hoch)"))));
+    knoepfe->addStretch(1);
+    reihe->addLayout(knoepfe);
     return bereich;
 }
 
@@ -185,12 +195,13 @@ QWidget* Hauptfenster::baueTermzeile() {
     eingabeF->setToolTip(QStringLiteral("Matrixterm, zum Beispiel (A - B)^3 * B; "
                                         "die Eingabetaste wertet ihn aus"));
     connect(eingabeF, &QLineEdit::returnPressed, this, [this] { menueAktion("termAuswerten"); });
-    reihe->addWidget(beschriftung(QStringLiteral("Term"), eingabeF));
+    reihe->addWidget(beschriftung(QStringLiteral("T&erm"), eingabeF));
     reihe->addWidget(eingabeF, 1);
 
     auto* auswerten = new QPushButton(QStringLiteral("Term-Auswertung"));
     auswerten->setObjectName(QStringLiteral("termAuswertenB"));
     auswerten->setAutoDefault(false);
+    auswerten->setFocusPolicy(Qt::TabFocus);
     connect(auswerten, &QPushButton::clicked, this, [this] { menueAktion("termAuswerten"); });
     reihe->addWidget(auswerten);
 
@@ -201,7 +212,8 @@ QWidget* Hauptfenster::baueTermzeile() {
     reihe->addWidget(skalarF);
 
     zaehlF = feld("zaehlF", &ViewController::zaehlF);
-    zaehlF->setToolTip(QStringLiteral("Anzahl der Durchläufe der n-maligen Auswertung"));
+    zaehlF->setToolTip(QStringLiteral("Anzahl der Durchläufe der n-maligen Auswertung; "
+                                      "die Eingabetaste startet sie"));
     zeichenBreit(zaehlF, 4);
     connect(zaehlF, &QLineEdit::returnPressed, this, [this] { menueAktion("nMalAuswerten"); });
     reihe->addWidget(beschriftung(QStringLiteral("n ="), zaehlF));
@@ -210,6 +222,7 @@ QWidget* Hauptfenster::baueTermzeile() {
     nMal->setObjectName(QStringLiteral("nMalAuswertenB"));
     nMal->setToolTip(QStringLiteral("Term n-mal auswerten, Ergebnis jeweils unter <Name>"));
     nMal->setAutoDefault(false);
+    nMal->setFocusPolicy(Qt::TabFocus);
     connect(nMal, &QPushButton::clicked, this, [this] { menueAktion("nMalAuswerten"); });
     reihe->addWidget(nMal);
     return zeile;
@@ -217,8 +230,8 @@ QWidget* Hauptfenster::baueTermzeile() {
 
 QWidget* Hauptfenster::baueWerkzeugzeile() {
     auto* zeile = new QWidget;
-    auto* spalte = new QVBoxLayout(zeile);
-    spalte->setContentsMargins(0, 0, 0, 0);
+    auto* reihe = new QHBoxLayout(zeile);
+    reihe->setContentsMargins(0, 0, 0, 0);
     zeileF = feld("zeileF", &ViewController::zeileF);
     zeileF->setToolTip(QStringLiteral("Zeilenzahl z oder Zeilennummer"));
     zeichenBreit(zeileF, 3);
@@ -226,38 +239,86 @@ QWidget* Hauptfenster::baueWerkzeugzeile() {
     spalteF->setToolTip(QStringLiteral("Spaltenzahl s oder Spaltennummer"));
     zeichenBreit(spalteF, 3);
 
-    auto* oben = new QHBoxLayout;
-    oben->addWidget(beschriftung(QStringLiteral("z ="), zeileF));
-    oben->addWidget(zeileF);
-    oben->addWidget(beschriftung(QStringLiteral("s ="), spalteF));
-    oben->addWidget(spalteF);
-    oben->addSpacing(8);
-    oben->addWidget(knopf(QStringLiteral("Zufalls (z,s)-Matrix"), "genZufallsMatrixB",
-                          QStringLiteral("Zufallsmatrix mit z Zeilen und s Spalten")));
+    reihe->addWidget(beschriftung(QStringLiteral("&z ="), zeileF));
+    reihe->addWidget(zeileF);
+    reihe->addWidget(beschriftung(QStringLiteral("&s ="), spalteF));
+    reihe->addWidget(spalteF);
+    reihe->addSpacing(6);
+    reihe->addWidget(knopf(QStringLiteral("Zufalls (z,s)-Matrix"), "genZufallsMatrixB",
+                           QStringLiteral("Zufallsmatrix mit z Zeilen und s Spalten")));
     // 'E(z)' is a window button that sends the menu action, as the menu entry does.
     auto* einheit = new QPushButton(QStringLiteral("E(z)"));
     einheit->setObjectName(QStringLiteral("genEinheitsmatrixB"));
     einheit->setToolTip(QStringLiteral("(z,z)-Einheitsmatrix ins Tableau"));
     einheit->setAutoDefault(false);
+    einheit->setFocusPolicy(Qt::TabFocus);
     connect(einheit, &QPushButton::clicked, this, [this] { menueAktion("genEinheitsmatrix"); });
-    oben->addWidget(einheit);
-    oben->addWidget(knopf(QStringLiteral("Einfügen"), "einfuegen",
-                          QStringLiteral("Leere Zeile z und/oder Spalte s einfügen")));
-    oben->addWidget(knopf(QStringLiteral("Entfernen"), "entfernen",
-                          QStringLiteral("Zeile z und/oder Spalte s entfernen")));
-    oben->addStretch(1);
-    spalte->addLayout(oben);
-
-    auto* unten = new QHBoxLayout;
-    unten->addWidget(knopf(QStringLiteral("Runden"), "rundenB",
+    reihe->addWidget(einheit);
+    reihe->addWidget(knopf(QStringLiteral("Einfügen"), "einfuegen",
+                           QStringLiteral("Leere Zeile z und/oder Spalte s einfügen")));
+    reihe->addWidget(knopf(QStringLiteral("Entfernen"), "entfernen",
+                           QStringLiteral("Zeile z und/oder Spalte s entfernen")));
+    reihe->addWidget(knopf(QStringLiteral("Runden"), "rundenB",
                            QStringLiteral("Tableau-Matrix auf die Nachkommastellen runden")));
-    unten->addWidget(knopf(QStringLiteral("Rändern"), "tableauRaendern",
+    reihe->addWidget(knopf(QStringLiteral("Rändern"), "tableauRaendern",
                            QStringLiteral("Neue erste Zeile und Spalte, 1 in der Ecke")));
-    unten->addWidget(knopf(QStringLiteral("Tableau löschen"), "tableauLoeschB",
+    reihe->addWidget(knopf(QStringLiteral("Tableau löschen"), "tableauLoeschB",
                            QStringLiteral("Alle Felder des Tableaus leeren")));
-    unten->addStretch(1);
-    spalte->addLayout(unten);
+    reihe->addStretch(1);
     return zeile;
+}
+
+QWidget* Hauptfenster::baueSeitenzeile() {
+    auto* zeile = new QWidget;
+    auto* reihe = new QHBoxLayout(zeile);
+    reihe->setContentsMargins(0, 0, 0, 0);
+    const int kante = fontMetrics().height() + 10;
+    auto* zurueck = knopf(QStringLiteral("^"), "protoDown",
+                          QStringLiteral("Eine Seite zurück (Strg+Bild aufwärts)"));
+    zurueck->setFixedWidth(kante + 6);
+    auto* vor =
+        knopf(QStringLiteral("^"), "protoUp", QStringLiteral("Eine Seite vor (Strg+Bild abwärts)"));
+    vor->setFixedWidth(kante + 6);
+    // The label names the message area below and gives it the keyboard focus with Alt+P.
+    reihe->addWidget(beschriftung(QStringLiteral("&Protokoll"), ausgabeF));
+    reihe->addWidget(zurueck);
+    reihe->addWidget(knopf(QStringLiteral("DEL"), "protoDelSeite",
+                           QStringLiteral("Diese Seite endgültig löschen")));
+    reihe->addWidget(vor);
+    reihe->addSpacing(6);
+    reihe->addWidget(knopf(QStringLiteral("Seite"), "neueSeite",
+                           QStringLiteral("Die Seite mit der eingetragenen Nummer zeigen")));
+    seitenF = feld("seitenF", &ViewController::seitenF);
+    seitenF->setAlignment(Qt::AlignCenter);
+    seitenF->setToolTip(QStringLiteral("Nummer der gezeigten Protokollseite; "
+                                       "die Eingabetaste zeigt die eingetragene Seite"));
+    zeichenBreit(seitenF, 4);
+    connect(seitenF, &QLineEdit::returnPressed, this, [this] { fensterAktion("neueSeite"); });
+    reihe->addWidget(seitenF);
+    reihe->addSpacing(12);
+
+    notizF = feld("notizF", &ViewController::notizF);
+    notizF->setReadOnly(true);
+    notizF->setFocusPolicy(Qt::NoFocus);
+    reihe->addWidget(notizF, 1);
+    return zeile;
+}
+
+QWidget* Hauptfenster::baueAusgabe() {
+    ausgabeF = new QPlainTextEdit;
+    ausgabeF->setObjectName(QStringLiteral("ausgabeF"));
+    ausgabeF->setReadOnly(true);
+    // Protocol pages are tables of numbers: a fixed-width font, no wrapping (a long row scrolls
+    // sideways instead of breaking in two) and tab stops every 8 characters, so that a page
+    // lines up as the saved protocol file does in an editor.
+    ausgabeF->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    ausgabeF->setLineWrapMode(QPlainTextEdit::NoWrap);
+    ausgabeF->setWordWrapMode(QTextOption::NoWrap);
+    ausgabeF->setTabStopDistance(
+        QFontMetricsF(ausgabeF->font()).horizontalAdvance(QLatin1Char(' ')) * 8);
+    ausgabeF->setTabChangesFocus(true);
+    ausgabeF->setMinimumHeight(ausgabeF->fontMetrics().lineSpacing() * 5);
+    return ausgabeF;
 }
 
 QWidget* Hauptfenster::baueFusszeile() {
@@ -281,12 +342,12 @@ QWidget* Hauptfenster::baueFusszeile() {
     dezimalenF->setReadOnly(true);
     dezimalenF->setFocusPolicy(Qt::NoFocus);
     zeichenBreit(dezimalenF, 3);
-    reihe->addWidget(beschriftung(QStringLiteral("Nachkommastellen"), dezimalSlider));
+    reihe->addWidget(beschriftung(QStringLiteral("Nach&kommastellen"), dezimalSlider));
     reihe->addWidget(dezimalSlider);
     reihe->addWidget(dezimalenF);
     reihe->addSpacing(16);
 
-    ueberschreibF = new QCheckBox(QStringLiteral("Überschreiben"));
+    ueberschreibF = new QCheckBox(QStringLiteral("Ü&berschreiben"));
     ueberschreibF->setObjectName(QStringLiteral("ueberschreibF"));
     ueberschreibF->setToolTip(QStringLiteral("Vorhandene Matrix beim Eintragen überschreiben"));
     connect(ueberschreibF, &QCheckBox::toggled, this, [this](bool an) {
@@ -301,55 +362,6 @@ QWidget* Hauptfenster::baueFusszeile() {
     reihe->addWidget(knopf(QStringLiteral("Beenden"), "quitB",
                            QStringLiteral("Tabulon nach Rückfrage beenden")));
     return zeile;
-}
-
-QWidget* Hauptfenster::baueProtokoll() {
-    auto* bereich = new QWidget;
-    auto* spalte = new QVBoxLayout(bereich);
-    spalte->setContentsMargins(0, 0, 0, 0);
-
-    auto* oben = new QHBoxLayout;
-    mListeF = feld("mListeF", &ViewController::mListeF);
-    mListeF->setReadOnly(true);
-    mListeF->setToolTip(QStringLiteral("Namen aller Matrizen der Liste"));
-    oben->addWidget(beschriftung(QStringLiteral("Liste"), mListeF));
-    oben->addWidget(mListeF, 1);
-    infoUndHilfeB = new QPushButton;
-    infoUndHilfeB->setObjectName(QStringLiteral("infoUndHilfeB"));
-    infoUndHilfeB->setAutoDefault(false);
-    connect(infoUndHilfeB, &QPushButton::clicked, this, &Hauptfenster::hilfeOeffnen);
-    oben->addWidget(infoUndHilfeB);
-    spalte->addLayout(oben);
-
-    ausgabeF = new QPlainTextEdit;
-    ausgabeF->setObjectName(QStringLiteral("ausgabeF"));
-    ausgabeF->setReadOnly(true);
-    ausgabeF->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    ausgabeF->setMinimumWidth(ausgabeF->fontMetrics().horizontalAdvance(QLatin1Char('0')) * 48);
-    spalte->addWidget(ausgabeF, 1);
-
-    auto* seiten = new QHBoxLayout;
-    seiten->addWidget(beschriftung(QStringLiteral("Protokoll"), ausgabeF));
-    seiten->addStretch(1);
-    seiten->addWidget(knopf(QStringLiteral("^"), "protoDown", QStringLiteral("Eine Seite zurück")));
-    seiten->addWidget(knopf(QStringLiteral("DEL"), "protoDelSeite",
-                            QStringLiteral("Diese Seite endgültig löschen")));
-    seiten->addWidget(knopf(QStringLiteral("^"), "protoUp", QStringLiteral("Eine Seite vor")));
-    seiten->addSpacing(12);
-
-    auto* seitenwahl = new QVBoxLayout;
-    seitenwahl->setSpacing(2);
-    seitenwahl->addWidget(knopf(QStringLiteral("Seite"), "neueSeite",
-                                QStringLiteral("Die Seite mit der eingetragenen Nummer zeigen")));
-    seitenF = feld("seitenF", &ViewController::seitenF);
-    seitenF->setAlignment(Qt::AlignCenter);
-    seitenF->setToolTip(QStringLiteral("Nummer der gezeigten Protokollseite"));
-    zeichenBreit(seitenF, 5);
-    connect(seitenF, &QLineEdit::returnPressed, this, [this] { fensterAktion("neueSeite"); });
-    seitenwahl->addWidget(seitenF);
-    seiten->addLayout(seitenwahl);
-    spalte->addLayout(seiten);
-    return bereich;
 }
 
 void Hauptfenster::fensterAktion(std::string_view name) {
@@ -368,6 +380,8 @@ void Hauptfenster::ausModell() {
     setzeHintergrund(eingabeFb, vc.eingabeFbGruen ? gruen : QColor(Qt::white));
     setzeText(eingabeF, vc.eingabeF);
     setzeText(notizF, vc.notizF);
+    // A long note may not fit the line; hovering shows it whole.
+    notizF->setToolTip(QString::fromStdString(vc.notizF));
     setzeText(zeileF, vc.zeileF);
     setzeText(spalteF, vc.spalteF);
     setzeText(skalarF, vc.skalarF);
@@ -397,6 +411,26 @@ void Hauptfenster::ausModell() {
             "QPushButton { background-color: #ffe135; color: black; border: 1px solid #c9a800;"
             " border-radius: 3px; padding: 0 12px; }"
             " QPushButton:pressed { background-color: #f0c800; }"));
+    }
+}
+
+void Hauptfenster::closeEvent(QCloseEvent* ereignis) {
+    if (plattform.beendetSich || listenZustand().sMatrixListe.empty()) {
+        ereignis->accept();
+        return;
+    }
+    // The model asks its own question; its answer to end the program comes back through the
+    // platform, which here only notes it, so that the window closes the ordinary way.
+    plattform.beendenAbfangen = true;
+    plattform.abgefangenerStatus.reset();
+    vc.quitB();
+    plattform.beendenAbfangen = false;
+    ausModell();
+    if (plattform.abgefangenerStatus) {
+        plattform.beendetSich = true;
+        ereignis->accept();
+    } else {
+        ereignis->ignore();
     }
 }
 

@@ -17,6 +17,7 @@
 class QCheckBox;
 class QLabel;
 class QLineEdit;
+class QMenu;
 class QPlainTextEdit;
 class QPushButton;
 class QSlider;
@@ -39,8 +40,16 @@ public:
     void ausModell();
     void hilfeOeffnen();
 
+    void tastenkuerzelZeigen();
+
     TableauWidget* tableauWidget() const { return tableau; }
     Hilfefenster* hilfefenster() const { return hilfe; }
+
+protected:
+    // The window's close button and the desktop's quit ask the 'Beenden' question while the
+    // list holds a matrix, since closing loses every matrix not saved; an empty list closes at
+    // once.
+    void closeEvent(QCloseEvent* ereignis) override;
 
 private:
     QWidget* baueNamenszeile();
@@ -48,8 +57,10 @@ private:
     QWidget* baueTermzeile();
     QWidget* baueWerkzeugzeile();
     QWidget* baueFusszeile();
-    QWidget* baueProtokoll();
+    QWidget* baueSeitenzeile();
+    QWidget* baueAusgabe();
     void baueMenue();
+    void dokumentenOrdnerZeigen();
 
     QPushButton* knopf(const QString& titel, const char* name, const QString& hinweis);
     QLineEdit* feld(const char* name, std::string ViewController::*wert);
@@ -76,6 +87,7 @@ private:
     QSlider* dezimalSlider = nullptr;
     QPushButton* infoUndHilfeB = nullptr;
     QPointer<Hilfefenster> hilfe;
+    QMenu* dateiMenue = nullptr;
     bool blinktGerade = false;
 };
 

@@ -4,6 +4,7 @@
 #include "qt/hauptfenster.h"
 #include "qt/qtplattform.h"
 #include "qt/startstil.h"
+#include "qt/uebersetzung.h"
 #include "window/viewcontroller.h"
 
 #include <QApplication>
@@ -14,6 +15,7 @@ int main(int argc, char** argv) {
     QApplication programm(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tabulon"));
     tabulon::startStilEinrichten();
+    tabulon::deutscheQtTexteLaden(programm);
 
     tabulon::QtPlattform plattform;
     tabulon::ViewController vc(plattform);

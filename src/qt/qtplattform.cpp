@@ -56,6 +56,11 @@ std::uint32_t QtPlattform::zufallUnter(std::uint32_t grenze) {
 }
 
 void QtPlattform::beenden(int status) {
+    if (beendenAbfangen) {
+        abgefangenerStatus = status;
+        return;
+    }
+    beendetSich = true;
     QApplication::closeAllWindows();
     std::exit(status);
 }

@@ -23,6 +23,12 @@ public:
     QWidget* elternFenster = nullptr;
     std::function<void()> vorDerFrage;
     std::function<void()> blinken;
+    // While the main window asks whether to close, an answer to end the program is only noted
+    // here, and the window closes the ordinary way; beendetSich then lets every later close
+    // event through without asking again.
+    bool beendenAbfangen = false;
+    std::optional<int> abgefangenerStatus;
+    bool beendetSich = false;
 
     void piep() override;
     int frage(const std::string& nachricht, const std::string& option1,

@@ -48,7 +48,7 @@ public:
     std::string skalarF;
     std::string zaehlF; // 'n ='
     std::string mListeF;
-    std::string seitenF;
+    std::string seitenF = "0"; // page 0, the empty start page, is shown at start
     std::string dezimalenF = "6";
     bool ueberschreibF = false; // the overwrite box
     std::string ueberschreibLabel = "Aus";
