@@ -133,8 +133,13 @@ Zerlegung zerlege(std::string_view s) {
                 }
             };
             teil();
-            if (j + 1 < s.size() && s[j] == '/' && (istZiffer(s[j + 1]) || s[j + 1] == '.')) {
-                ++j;
+            // The denominator may carry its own sign, as in the entries ("6/-4").
+            std::size_t nenner = j + 1;
+            if (nenner < s.size() && (s[nenner] == '-' || s[nenner] == '+'))
+                ++nenner;
+            if (j < s.size() && s[j] == '/' && nenner < s.size() &&
+                (istZiffer(s[nenner]) || s[nenner] == '.')) {
+                j = nenner;
                 teil();
             }
             t.text = std::string(s.substr(i, j - i));
@@ -196,10 +201,20 @@ public:
         return false;
     }
 
+    // A number with an optional sign of its own: "Z3 : -2", "Z2 + -3 Z1".
+    bool vorzeichenVorZahl() const {
+        return (jetzt().art == Art::minus || jetzt().art == Art::plus) && danach().art == Art::zahl;
+    }
+
     std::optional<Bruch> zahl() {
+        Bruch vorzeichen = 1;
+        if (vorzeichenVorZahl()) {
+            vorzeichen = jetzt().art == Art::minus ? -1 : 1;
+            weiter();
+        }
         if (!erwarte(Art::zahl, "eine Zahl"))
             return std::nullopt;
-        Bruch z = jetzt().zahl;
+        Bruch z = vorzeichen * jetzt().zahl;
         weiter();
         return z;
     }
@@ -209,9 +224,8 @@ public:
         Term t;
         t.faktor = vorzeichen;
         t.stelle = jetzt().stelle;
-        if (jetzt().art == Art::zahl) {
-            t.faktor *= jetzt().zahl;
-            weiter();
+        if (jetzt().art == Art::zahl || vorzeichenVorZahl()) {
+            t.faktor *= *zahl();
             if (jetzt().art == Art::mal)
                 weiter();
         }

@@ -9,6 +9,8 @@
 
 namespace tabulon {
 
+class UebungsController;
+
 class Plattform {
 public:
     // The modal question's results, as the platform's alert reports them.
@@ -29,6 +31,9 @@ public:
     virtual void beenden(int status) = 0;
     // The user's documents folder, created when missing; nothing when it cannot be determined.
     virtual std::optional<std::filesystem::path> dokumentenOrdner() = 0;
+    // The main window has opened the practice of row operations; a window system shows it. The
+    // main window owns the practice until it opens the next one.
+    virtual void uebungGeoeffnet(UebungsController&) {}
 };
 
 } // namespace tabulon

@@ -48,6 +48,10 @@ INSTANTIATE_TEST_SUITE_P(
                       Gelesen{"1/2 Z3", {Art::skalieren, 2, 2, Bruch(1, 2)}},
                       Gelesen{"1.5/2 Z3", {Art::skalieren, 2, 2, Bruch(3, 4)}},
                       Gelesen{"-Z1", {Art::skalieren, 0, 0, Bruch(-1)}},
+                      Gelesen{"Z3 : -2", {Art::skalieren, 2, 2, Bruch(-1, 2)}},
+                      Gelesen{"Z3 * 1/-2", {Art::skalieren, 2, 2, Bruch(-1, 2)}},
+                      Gelesen{"Z2 + -3 Z1", {Art::addieren, 1, 0, Bruch(-3)}},
+                      Gelesen{"Z2 - -3 Z1", {Art::addieren, 1, 0, Bruch(3)}},
                       Gelesen{"Z3 = 2 Z3", {Art::skalieren, 2, 2, Bruch(2)}},
                       Gelesen{"Z2 ← -1/7·Z2", {Art::skalieren, 1, 1, Bruch(-1, 7)}}));
 
@@ -105,6 +109,9 @@ INSTANTIATE_TEST_SUITE_P(
         Abgelehnt{"Z1 + 1.2.3 Z2", 3, "Stelle 6: „1.2.3“ ist keine Zahl."},
         Abgelehnt{"Z1 <-> ", 3, std::string("Stelle 8: ") + zeileErwartet},
         Abgelehnt{"Z3 : 0", 3, "Stelle 6: durch 0 kann man nicht teilen."},
+        Abgelehnt{"Z3 : - Z1", 3, "Stelle 6: erwartet wird eine Zahl, nicht „-“."},
+        Abgelehnt{"Z2 - - Z1", 3,
+                  "Stelle 6: erwartet wird eine Zeile (Z1 … Z8 oder I … VIII), nicht „-“."},
         Abgelehnt{"Z4 - 2 Z1", 3, "Stelle 1: die Zeile 4 gibt es nicht; die Matrix hat 3 Zeilen."},
         Abgelehnt{"Z1 <-> V", 1,
                   "Stelle 8: die Zeile 5 gibt es nicht; die Matrix hat nur eine Zeile."},
