@@ -9,6 +9,8 @@
 
 #include <functional>
 
+#include <QPointer>
+
 class QWidget;
 class QPixmap;
 
@@ -26,6 +28,11 @@ public:
     std::uint32_t zufallUnter(std::uint32_t grenze) override;
     void beenden(int status) override;
     std::optional<std::filesystem::path> dokumentenOrdner() override;
+
+    // Shows the practice in a window of its own beside the main window; a new practice replaces
+    // the window of the one before.
+    void uebungGeoeffnet(UebungsController& uebung) override;
+    QPointer<QWidget> uebungsfenster;
 };
 
 // The application icon "M128.png": drawn rather than shipped, so the build needs no binary file.
