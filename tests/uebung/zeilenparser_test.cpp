@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace tabulon {
 namespace {
 
@@ -133,6 +135,31 @@ INSTANTIATE_TEST_SUITE_P(
         Abgelehnt{"Z1 + Z2 + Z3", 3,
                   "Eine elementare Zeilenumformung addiert das Vielfache genau einer anderen "
                   "Zeile; bitte in einzelne Schritte zerlegen."}));
+
+// Any text, however broken (cut UTF-8, long digit runs, stray signs), gives an operation on rows
+// that exist or a message, never a crash.
+TEST(Zeilenparser, AnyTextGivesAnOperationOrAReason) {
+    const std::vector<std::string> stuecke = {
+        "Z", "z", "1", "9", "0", "I",    "V",    "v",   "i",      " ",
+        "-", "+", "*", ":", "=", "/",    ".",    "e",   "<->",    "<",
+        ">", "↔", "←", "−", "·", "\xE2", "\x86", "1/0", "1e9999", "99999999999999999999"};
+    std::mt19937 zufall(18);
+    for (int runde = 0; runde < 20000; ++runde) {
+        std::string text;
+        const int laenge = static_cast<int>(zufall() % 9);
+        for (int i = 0; i < laenge; ++i)
+            text += stuecke[zufall() % stuecke.size()];
+        const std::size_t zeilen = 1 + zufall() % 8;
+        const UmformungLesung l = liesUmformung(text, zeilen);
+        if (l.ok) {
+            EXPECT_LT(l.operation.ziel, zeilen) << text;
+            EXPECT_LT(l.operation.quelle, zeilen) << text;
+            EXPECT_TRUE(l.fehler.empty()) << text;
+        } else {
+            EXPECT_FALSE(l.fehler.empty()) << text;
+        }
+    }
+}
 
 } // namespace
 } // namespace tabulon
