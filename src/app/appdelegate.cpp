@@ -18,7 +18,7 @@ struct Eintrag {
 
 // One table for the names and the actions, so that the list the menu shows and the actions
 // menueAktion fires cannot drift apart.
-constexpr std::array<Eintrag, 23> eintraege{{
+constexpr std::array<Eintrag, 24> eintraege{{
     {"TableauLöschen", &AppDelegate::TableauLöschen},
     {"nMalAuswerten", &AppDelegate::nMalAuswerten},
     {"termAuswerten", &AppDelegate::termAuswerten},
@@ -42,13 +42,14 @@ constexpr std::array<Eintrag, 23> eintraege{{
     {"ladenM", &AppDelegate::ladenM},
     {"speichernM", &AppDelegate::speichernM},
     {"protoSpeichern", &AppDelegate::protoSpeichern},
+    {"exaktUeben", &AppDelegate::exaktUeben},
 }};
 
 } // namespace
 
-const std::array<std::string_view, 23>& AppDelegate::menueNamen() {
-    static const std::array<std::string_view, 23> namen = [] {
-        std::array<std::string_view, 23> n{};
+const std::array<std::string_view, 24>& AppDelegate::menueNamen() {
+    static const std::array<std::string_view, 24> namen = [] {
+        std::array<std::string_view, 24> n{};
         for (std::size_t i = 0; i < eintraege.size(); ++i) {
             n[i] = eintraege[i].name;
         }
@@ -204,6 +205,12 @@ void AppDelegate::speichernM() {
 void AppDelegate::protoSpeichern() {
     if (mainVC) {
         mainVC->protoSpeichern();
+    }
+}
+
+void AppDelegate::exaktUeben() {
+    if (mainVC) {
+        mainVC->exaktUeben();
     }
 }
 

@@ -20,9 +20,9 @@ class AppDelegate {
 public:
     ViewController* mainVC = nullptr;
 
-    // The names of the 23 menu actions, in the order of the application menu's table; the desktop
+    // The names of the 24 menu actions, in the order of the application menu's table; the desktop
     // menu builds its entries from this list and fires them with menueAktion.
-    static const std::array<std::string_view, 23>& menueNamen();
+    static const std::array<std::string_view, 24>& menueNamen();
 
     // Fires the menu action of this name; false when there is no action of that name. A known
     // action with an empty mainVC does nothing and still counts as fired.
@@ -54,6 +54,7 @@ public:
     void ladenM();
     void speichernM();
     void protoSpeichern();
+    void exaktUeben();
 };
 
 } // namespace tabulon

@@ -1,11 +1,12 @@
 #include "app/tabulonhilfen.h"
 
 #include "app/hilfetexte.h"
+#include "uebung/hilfe.h"
 
 namespace tabulon {
 
-const std::array<TabulonHilfen::Thema, 24>& TabulonHilfen::themen() {
-    static const std::array<Thema, 24> liste{{
+const std::array<TabulonHilfen::Thema, 25>& TabulonHilfen::themen() {
+    static const std::array<Thema, 25> liste{{
         {"allgInfoB", "Allgemeine Information", &TabulonHilfen::allgInfoB},
         {"anweisungH", "Term-Auswertung", &TabulonHilfen::anweisungH},
         {"nMalAusfuehrungH", "n-malige Auswertung", &TabulonHilfen::nMalAusfuehrungH},
@@ -31,6 +32,7 @@ const std::array<TabulonHilfen::Thema, 24>& TabulonHilfen::themen() {
         {"matrixGroesseAendern", "Zeilen/Spalten ändern", &TabulonHilfen::matrixGroesseAendern},
         {"ladeH", "Laden", &TabulonHilfen::ladeH},
         {"speicherH", "Speichern", &TabulonHilfen::speicherH},
+        {"uebungH", "Zeilenumformungen üben", &TabulonHilfen::uebungH},
     }};
     return liste;
 }
@@ -141,6 +143,10 @@ void TabulonHilfen::ladeH() {
 }
 void TabulonHilfen::speicherH() {
     fensterAusgabe(speichereHT);
+}
+
+void TabulonHilfen::uebungH() {
+    fensterAusgabe(uebungHT);
 }
 
 } // namespace tabulon

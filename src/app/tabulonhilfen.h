@@ -22,8 +22,8 @@ public:
     std::string titel;
     bool offen = true;
 
-    // The 24 topic buttons in the order the window shows them.
-    static const std::array<Thema, 24>& themen();
+    // The 25 topic buttons in the order the window shows them.
+    static const std::array<Thema, 25>& themen();
 
     void viewDidLoad();
     void viewDidAppear();
@@ -57,6 +57,7 @@ public:
     void matrixGroesseAendern();
     void ladeH();
     void speicherH();
+    void uebungH();
 };
 
 } // namespace tabulon

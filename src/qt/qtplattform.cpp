@@ -1,6 +1,7 @@
 #include "qt/qtplattform.h"
 
 #include "files/ordner.h"
+#include "qt/uebungsfenster.h"
 
 #include <QApplication>
 #include <QFont>
@@ -141,6 +142,24 @@ QPixmap anwendungsIcon(int kante) {
     maler.setFont(schrift);
     maler.drawText(QRectF(0, 0, k, k), Qt::AlignCenter, QStringLiteral("M"));
     return bild;
+}
+
+void QtPlattform::uebungGeoeffnet(UebungsController& uebung) {
+    // The model of the old window is already gone, so the window goes at once, not later.
+    delete uebungsfenster.data();
+    auto* fenster = new Uebungsfenster(
+        uebung,
+        [this] {
+            if (vorDerFrage) {
+                vorDerFrage(); // copies the main window's model onto its widgets
+            }
+        },
+        elternFenster);
+    fenster->setAttribute(Qt::WA_DeleteOnClose);
+    uebungsfenster = fenster;
+    fenster->show();
+    fenster->raise();
+    fenster->activateWindow();
 }
 
 } // namespace tabulon

@@ -12,6 +12,8 @@
 #include <functional>
 #include <memory>
 
+#include <QPointer>
+
 class QWidget;
 class QPixmap;
 class QProgressDialog;
@@ -36,6 +38,12 @@ public:
     std::uint32_t zufallUnter(std::uint32_t grenze) override;
     void beenden(int status) override;
     std::optional<std::filesystem::path> dokumentenOrdner() override;
+
+    // Shows the practice in a window of its own beside the main window; a new practice replaces
+    // the window of the one before.
+    void uebungGeoeffnet(UebungsController& uebung) override;
+    QPointer<QWidget> uebungsfenster;
+
     // A command that runs longer than half a second shows a modal progress dialog with a cancel
     // button; a shorter one shows nothing.
     bool fortschritt(std::int64_t fertig, std::int64_t gesamt) override;

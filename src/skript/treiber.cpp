@@ -135,6 +135,9 @@ bool Treiber::zeige(const std::string& was) {
 }
 
 std::string Treiber::ausfuehren(const Befehl& befehl) {
+    if (auto uebung = uebungsBefehl(befehl)) {
+        return *uebung;
+    }
     switch (befehl.art) {
     case Befehlsart::feld: {
         const Feld* feld = textfeld(befehl.name);

@@ -9,6 +9,7 @@
 #include "window/viewcontroller.h"
 
 #include <istream>
+#include <optional>
 #include <ostream>
 #include <string>
 
@@ -35,6 +36,9 @@ public:
 
 private:
     bool zeige(const std::string& was); // false for an unknown display
+    // The fields, buttons and displays of the practice (uebungstreiber.cpp): nothing when the
+    // command is none of them, else "" or the error text.
+    std::optional<std::string> uebungsBefehl(const Befehl& befehl);
 };
 
 } // namespace tabulon::skript

@@ -9,6 +9,8 @@
 
 namespace tabulon {
 
+class UebungsController;
+
 class Plattform {
 public:
     // The modal question's results, as the platform's alert reports them.
@@ -42,6 +44,9 @@ public:
     }
     // The command whose progress was reported has ended, completed or stopped.
     virtual void fortschrittEnde() {}
+    // The main window has opened the practice of row operations; a window system shows it. The
+    // main window owns the practice until it opens the next one.
+    virtual void uebungGeoeffnet(UebungsController&) {}
 };
 
 } // namespace tabulon

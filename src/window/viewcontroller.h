@@ -18,12 +18,14 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
 namespace tabulon {
 
 struct Matrix;
+class UebungsController;
 
 struct Zelle {
     std::string text;
@@ -145,6 +147,11 @@ public:
 
     // Characteristic polynomial and real eigenvalues.
     void charPol();
+
+    // The practice of row operations on the matrix named in 'Name' (uebungsbefehl.cpp); the
+    // practice stays open, and reachable here, until the next one replaces it.
+    void exaktUeben();
+    std::shared_ptr<UebungsController> uebung;
 
     // Files.
     void speichern();

@@ -1,0 +1,167 @@
+#include "uebung/uebungscontroller.h"
+
+#include <utility>
+
+#include "exakt/befehle.h"
+#include "files/dokumente.h"
+#include "textmatrix/liste.h"
+#include "textmatrix/zahltext.h"
+#include "uebung/zeilenparser.h"
+
+namespace tabulon {
+
+namespace {
+
+std::string nummer(std::size_t n) {
+    return ganzText(static_cast<std::int64_t>(n));
+}
+
+std::string groesse(const BMatrix& m) {
+    return nummer(m.rows) + " × " + nummer(m.columns);
+}
+
+// Matrix names are the letters A ... Z; a lower-case letter means the same matrix, as in 'Name'.
+std::string grossBuchstaben(std::string s) {
+    for (char& c : s)
+        if (c >= 'a' && c <= 'z')
+            c = static_cast<char>(c - 'a' + 'A');
+    return s;
+}
+
+} // namespace
+
+UebungsController::UebungsController(Plattform& plattform, Uebung uebung, InsTableau insTableau)
+    : uebung(std::move(uebung)), plattform(plattform), insTableau(std::move(insTableau)) {
+    const Uebung& u = this->uebung;
+    notizF = "Übung mit " + u.name + " (" + groesse(u.start) +
+             "): bitte eine Zeilenumformung eingeben, zum Beispiel „Z2 - 3 Z1“.";
+}
+
+const std::array<std::string_view, 7>& UebungsController::knopfNamen() {
+    static const std::array<std::string_view, 7> namen{
+        "umformenB", "rueckgaengigB", "tippB", "pruefenB", "vergleichenB", "insTableauB", "texB"};
+    return namen;
+}
+
+bool UebungsController::fensterAktion(std::string_view name) {
+    using Knopf = void (UebungsController::*)();
+    static const std::pair<std::string_view, Knopf> knoepfe[] = {
+        {"umformenB", &UebungsController::umformenB},
+        {"rueckgaengigB", &UebungsController::rueckgaengigB},
+        {"tippB", &UebungsController::tippB},
+        {"pruefenB", &UebungsController::pruefenB},
+        {"vergleichenB", &UebungsController::vergleichenB},
+        {"insTableauB", &UebungsController::insTableauB},
+        {"texB", &UebungsController::texB},
+    };
+    for (const auto& [n, knopf] : knoepfe) {
+        if (n == name) {
+            (this->*knopf)();
+            return true;
+        }
+    }
+    return false;
+}
+
+void UebungsController::abgelehnt(std::string meldung) {
+    plattform.piep();
+    notizF = std::move(meldung);
+}
+
+void UebungsController::umformenB() {
+    const UmformungLesung l = liesUmformung(umformungF, uebung.start.rows);
+    if (!l.ok) {
+        // The text stays in the field, so that the learner can correct it.
+        abgelehnt(l.fehler);
+        return;
+    }
+    uebung.umformen(l.operation);
+    umformungF.clear();
+    notizF = "Schritt " + nummer(uebung.schritte.size()) + ": " + l.operation.text().text();
+    notizF += pruefe(uebung.aktuell()).reduziert
+                  ? ". Die Matrix ist jetzt in reduzierter Zeilenstufenform."
+                  : ".";
+}
+
+void UebungsController::rueckgaengigB() {
+    if (uebung.schritte.empty()) {
+        abgelehnt("Es gibt noch keinen Schritt, der rückgängig gemacht werden kann.");
+        return;
+    }
+    const std::string text = uebung.schritte.back().text().text();
+    const std::size_t n = uebung.schritte.size();
+    uebung.rueckgaengig();
+    notizF = "Schritt " + nummer(n) + " (" + text + ") ist rückgängig gemacht.";
+}
+
+void UebungsController::tippB() {
+    const Tipp t = naechsterSchritt(uebung.aktuell());
+    if (t.fertig) {
+        umformungF.clear();
+        notizF = t.grund;
+        return;
+    }
+    umformungF = t.operation.text().text();
+    notizF = "Tipp: " + t.grund;
+}
+
+void UebungsController::pruefenB() {
+    notizF = pruefText(pruefe(uebung.aktuell()));
+}
+
+void UebungsController::vergleichenB() {
+    vergleichF = grossBuchstaben(vergleichF);
+    const std::string& name = vergleichF;
+    const auto& liste = listenZustand().sMatrixListe;
+    const auto gefunden = liste.find(name);
+    if (name.empty() || gefunden == liste.end()) {
+        abgelehnt("Bitte Namen einer Matrix der Liste im Feld 'Vergleich' angeben.");
+        return;
+    }
+    const BLesung l = liesBMatrix(name, gefunden->second);
+    if (!l.ok) {
+        abgelehnt(l.notiz);
+        return;
+    }
+    const BMatrix& a = uebung.start;
+    const BMatrix& b = l.matrix;
+    const std::string& start = uebung.name;
+    if (a.rows != b.rows || a.columns != b.columns) {
+        notizF = name + " ist nicht zeilenäquivalent zu " + start + ": " + name + " ist " +
+                 groesse(b) + ", " + start + " ist " + groesse(a) + ".";
+        return;
+    }
+    const Vergleich v = vergleiche(a, b);
+    if (!v.aequivalent)
+        notizF = name + " ist nicht zeilenäquivalent zu " + start + ".";
+    else if (v.reduzierteForm)
+        notizF = name + " ist zeilenäquivalent zu " + start +
+                 " und ist seine reduzierte Zeilenstufenform.";
+    else
+        notizF = name + " ist zeilenäquivalent zu " + start +
+                 ", aber nicht seine reduzierte Zeilenstufenform.";
+}
+
+void UebungsController::insTableauB() {
+    insTableau(tableauText(uebung.aktuell()));
+    notizF = "Die aktuelle Matrix wurde ins Feld der Eingabematrix geschrieben.";
+}
+
+void UebungsController::texB() {
+    const auto [ok, fehler] =
+        schreiben(plattform.dokumentenOrdner(), texName(), texDokument(uebungsSeite(uebung)));
+    if (!ok) {
+        abgelehnt(exaktTexFehlerNotiz);
+        return;
+    }
+    notizF = "Die Datei Matrix_" + texName() + " wurde im  Dokument-Ordner gespeichert.";
+}
+
+std::vector<std::string> UebungsController::schrittTexte() const {
+    std::vector<std::string> texte;
+    for (std::size_t i = 0; i < uebung.schritte.size(); ++i)
+        texte.push_back(nummer(i + 1) + ". " + uebung.schritte[i].text().text());
+    return texte;
+}
+
+} // namespace tabulon
