@@ -12,6 +12,7 @@
 #include "window/viewcontroller.h"
 
 #include <array>
+#include <cstddef>
 #include <string_view>
 
 namespace tabulon {
@@ -20,9 +21,11 @@ class AppDelegate {
 public:
     ViewController* mainVC = nullptr;
 
-    // The names of the 23 menu actions, in the order of the application menu's table; the desktop
-    // menu builds its entries from this list and fires them with menueAktion.
-    static const std::array<std::string_view, 23>& menueNamen();
+    // The names of the menu actions: the 23 of the application menu's table in its order, then the
+    // seven of the menu "Exakt". The desktop menu builds its entries from this list and fires them
+    // with menueAktion.
+    static constexpr std::size_t anzahlMenueAktionen = 30;
+    static const std::array<std::string_view, anzahlMenueAktionen>& menueNamen();
 
     // Fires the menu action of this name; false when there is no action of that name. A known
     // action with an empty mainVC does nothing and still counts as fired.
@@ -54,6 +57,15 @@ public:
     void ladenM();
     void speichernM();
     void protoSpeichern();
+
+    // The menu "Exakt".
+    void exaktGauss();
+    void exaktLGS();
+    void exaktKern();
+    void exaktInverse();
+    void exaktDeterminante();
+    void exaktEigen();
+    void exaktTexAusgabe();
 };
 
 } // namespace tabulon

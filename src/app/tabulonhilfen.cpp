@@ -1,11 +1,12 @@
 #include "app/tabulonhilfen.h"
 
 #include "app/hilfetexte.h"
+#include "exakt/hilfe.h"
 
 namespace tabulon {
 
-const std::array<TabulonHilfen::Thema, 24>& TabulonHilfen::themen() {
-    static const std::array<Thema, 24> liste{{
+const std::array<TabulonHilfen::Thema, TabulonHilfen::anzahlThemen>& TabulonHilfen::themen() {
+    static const std::array<Thema, anzahlThemen> liste{{
         {"allgInfoB", "Allgemeine Information", &TabulonHilfen::allgInfoB},
         {"anweisungH", "Term-Auswertung", &TabulonHilfen::anweisungH},
         {"nMalAusfuehrungH", "n-malige Auswertung", &TabulonHilfen::nMalAusfuehrungH},
@@ -31,6 +32,13 @@ const std::array<TabulonHilfen::Thema, 24>& TabulonHilfen::themen() {
         {"matrixGroesseAendern", "Zeilen/Spalten ändern", &TabulonHilfen::matrixGroesseAendern},
         {"ladeH", "Laden", &TabulonHilfen::ladeH},
         {"speicherH", "Speichern", &TabulonHilfen::speicherH},
+        {"exaktGaussH", "Exakt: Gauß-Jordan", &TabulonHilfen::exaktGaussH},
+        {"exaktLGSH", "Exakt: Gleichungssystem", &TabulonHilfen::exaktLGSH},
+        {"exaktKernH", "Exakt: Kern und Bild", &TabulonHilfen::exaktKernH},
+        {"exaktInverseH", "Exakt: Inverse", &TabulonHilfen::exaktInverseH},
+        {"exaktDeterminanteH", "Exakt: Determinante", &TabulonHilfen::exaktDeterminanteH},
+        {"exaktEigenH", "Exakt: Eigenwerte", &TabulonHilfen::exaktEigenH},
+        {"exaktTexAusgabeH", "Exakt: TEX-Format", &TabulonHilfen::exaktTexAusgabeH},
     }};
     return liste;
 }
@@ -141,6 +149,28 @@ void TabulonHilfen::ladeH() {
 }
 void TabulonHilfen::speicherH() {
     fensterAusgabe(speichereHT);
+}
+
+void TabulonHilfen::exaktGaussH() {
+    fensterAusgabe(exaktGaussHT);
+}
+void TabulonHilfen::exaktLGSH() {
+    fensterAusgabe(exaktLGSHT);
+}
+void TabulonHilfen::exaktKernH() {
+    fensterAusgabe(exaktKernHT);
+}
+void TabulonHilfen::exaktInverseH() {
+    fensterAusgabe(exaktInverseHT);
+}
+void TabulonHilfen::exaktDeterminanteH() {
+    fensterAusgabe(exaktDeterminanteHT);
+}
+void TabulonHilfen::exaktEigenH() {
+    fensterAusgabe(exaktEigenHT);
+}
+void TabulonHilfen::exaktTexAusgabeH() {
+    fensterAusgabe(exaktTexAusgabeHT);
 }
 
 } // namespace tabulon

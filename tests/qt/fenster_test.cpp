@@ -3,6 +3,7 @@
 
 #include "app/appdelegate.h"
 #include "app/hilfetexte.h"
+#include "exakt/befehle.h"
 #include "qt/hauptfenster.h"
 #include "qt/hilfefenster.h"
 #include "qt/myview.h"
@@ -41,6 +42,7 @@ struct Aufbau {
     Aufbau() {
         listenZustandZuruecksetzen();
         tableauZustandZuruecksetzen();
+        exaktZustandZuruecksetzen();
         protokollZustandZuruecksetzen();
         termZustandZuruecksetzen();
         fenster = std::make_unique<Hauptfenster>(vc, delegate, plattform);

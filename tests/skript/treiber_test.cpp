@@ -2,6 +2,7 @@
 // knows and where a script stops.
 
 #include "app/appdelegate.h"
+#include "exakt/befehle.h"
 #include "skript/dokumente.h"
 #include "skript/skriptplattform.h"
 #include "skript/treiber.h"
@@ -44,6 +45,7 @@ TEST(Dokumente, FallsBackToHome) {
 std::tuple<int, std::string, std::string> lauf(const std::string& skript) {
     listenZustandZuruecksetzen();
     tableauZustandZuruecksetzen();
+    exaktZustandZuruecksetzen();
     protokollZustandZuruecksetzen();
     termZustandZuruecksetzen();
     std::ostringstream aus;
