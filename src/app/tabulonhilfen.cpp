@@ -38,7 +38,7 @@ const std::array<TabulonHilfen::Thema, TabulonHilfen::anzahlThemen>& TabulonHilf
         {"exaktInverseH", "Exakt: Inverse", &TabulonHilfen::exaktInverseH},
         {"exaktDeterminanteH", "Exakt: Determinante", &TabulonHilfen::exaktDeterminanteH},
         {"exaktEigenH", "Exakt: Eigenwerte", &TabulonHilfen::exaktEigenH},
-        {"exaktTexAusgabeH", "Exakt: TEX-Format", &TabulonHilfen::exaktTexAusgabeH},
+        {"exaktTexAusgabeH", "Exakt: TeX-Ausgabe", &TabulonHilfen::exaktTexAusgabeH},
     }};
     return liste;
 }
