@@ -2,6 +2,7 @@
 // What the command benchmarks share: a window system that stays silent, a fresh start of all
 // process-wide state, and a matrix typed into the tableau and stored as a user would do it.
 
+#include "exakt/befehle.h"
 #include "terms/parser.h"
 #include "textmatrix/liste.h"
 #include "window/plattform.h"
@@ -32,6 +33,7 @@ inline void allesZuruecksetzen() {
     listenZustandZuruecksetzen();
     termZustandZuruecksetzen();
     tableauZustandZuruecksetzen();
+    exaktZustandZuruecksetzen();
     protokollZustandZuruecksetzen();
 }
 

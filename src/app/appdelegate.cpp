@@ -18,7 +18,7 @@ struct Eintrag {
 
 // One table for the names and the actions, so that the list the menu shows and the actions
 // menueAktion fires cannot drift apart.
-constexpr std::array<Eintrag, 24> eintraege{{
+constexpr std::array<Eintrag, AppDelegate::anzahlMenueAktionen> eintraege{{
     {"TableauLöschen", &AppDelegate::TableauLöschen},
     {"nMalAuswerten", &AppDelegate::nMalAuswerten},
     {"termAuswerten", &AppDelegate::termAuswerten},
@@ -42,14 +42,21 @@ constexpr std::array<Eintrag, 24> eintraege{{
     {"ladenM", &AppDelegate::ladenM},
     {"speichernM", &AppDelegate::speichernM},
     {"protoSpeichern", &AppDelegate::protoSpeichern},
+    {"exaktGauss", &AppDelegate::exaktGauss},
+    {"exaktLGS", &AppDelegate::exaktLGS},
+    {"exaktKern", &AppDelegate::exaktKern},
+    {"exaktInverse", &AppDelegate::exaktInverse},
+    {"exaktDeterminante", &AppDelegate::exaktDeterminante},
+    {"exaktEigen", &AppDelegate::exaktEigen},
+    {"exaktTexAusgabe", &AppDelegate::exaktTexAusgabe},
     {"exaktUeben", &AppDelegate::exaktUeben},
 }};
 
 } // namespace
 
-const std::array<std::string_view, 24>& AppDelegate::menueNamen() {
-    static const std::array<std::string_view, 24> namen = [] {
-        std::array<std::string_view, 24> n{};
+const std::array<std::string_view, AppDelegate::anzahlMenueAktionen>& AppDelegate::menueNamen() {
+    static const std::array<std::string_view, anzahlMenueAktionen> namen = [] {
+        std::array<std::string_view, anzahlMenueAktionen> n{};
         for (std::size_t i = 0; i < eintraege.size(); ++i) {
             n[i] = eintraege[i].name;
         }
@@ -205,6 +212,48 @@ void AppDelegate::speichernM() {
 void AppDelegate::protoSpeichern() {
     if (mainVC) {
         mainVC->protoSpeichern();
+    }
+}
+
+void AppDelegate::exaktGauss() {
+    if (mainVC) {
+        mainVC->exaktGauss();
+    }
+}
+
+void AppDelegate::exaktLGS() {
+    if (mainVC) {
+        mainVC->exaktLGS();
+    }
+}
+
+void AppDelegate::exaktKern() {
+    if (mainVC) {
+        mainVC->exaktKern();
+    }
+}
+
+void AppDelegate::exaktInverse() {
+    if (mainVC) {
+        mainVC->exaktInverse();
+    }
+}
+
+void AppDelegate::exaktDeterminante() {
+    if (mainVC) {
+        mainVC->exaktDeterminante();
+    }
+}
+
+void AppDelegate::exaktEigen() {
+    if (mainVC) {
+        mainVC->exaktEigen();
+    }
+}
+
+void AppDelegate::exaktTexAusgabe() {
+    if (mainVC) {
+        mainVC->exaktTexAusgabe();
     }
 }
 

@@ -12,6 +12,7 @@
 #include "window/viewcontroller.h"
 
 #include <array>
+#include <cstddef>
 #include <string_view>
 
 namespace tabulon {
@@ -20,9 +21,11 @@ class AppDelegate {
 public:
     ViewController* mainVC = nullptr;
 
-    // The names of the 24 menu actions, in the order of the application menu's table; the desktop
-    // menu builds its entries from this list and fires them with menueAktion.
-    static const std::array<std::string_view, 24>& menueNamen();
+    // The names of the menu actions: the 23 of the application menu's table in its order, then the
+    // eight of the menu "Exakt" (seven exact commands and the practice of row operations). The
+    // desktop menu has an entry for each and fires them with menueAktion.
+    static constexpr std::size_t anzahlMenueAktionen = 31;
+    static const std::array<std::string_view, anzahlMenueAktionen>& menueNamen();
 
     // Fires the menu action of this name; false when there is no action of that name. A known
     // action with an empty mainVC does nothing and still counts as fired.
@@ -54,6 +57,17 @@ public:
     void ladenM();
     void speichernM();
     void protoSpeichern();
+
+    // The menu "Exakt".
+    void exaktGauss();
+    void exaktLGS();
+    void exaktKern();
+    void exaktInverse();
+    void exaktDeterminante();
+    void exaktEigen();
+    void exaktTexAusgabe();
+
+    // The practice of row operations.
     void exaktUeben();
 };
 

@@ -1,12 +1,13 @@
 #include "app/tabulonhilfen.h"
 
 #include "app/hilfetexte.h"
+#include "exakt/hilfe.h"
 #include "uebung/hilfe.h"
 
 namespace tabulon {
 
-const std::array<TabulonHilfen::Thema, 25>& TabulonHilfen::themen() {
-    static const std::array<Thema, 25> liste{{
+const std::array<TabulonHilfen::Thema, TabulonHilfen::anzahlThemen>& TabulonHilfen::themen() {
+    static const std::array<Thema, anzahlThemen> liste{{
         {"allgInfoB", "Allgemeine Information", &TabulonHilfen::allgInfoB},
         {"anweisungH", "Term-Auswertung", &TabulonHilfen::anweisungH},
         {"nMalAusfuehrungH", "n-malige Auswertung", &TabulonHilfen::nMalAusfuehrungH},
@@ -32,6 +33,13 @@ const std::array<TabulonHilfen::Thema, 25>& TabulonHilfen::themen() {
         {"matrixGroesseAendern", "Zeilen/Spalten ändern", &TabulonHilfen::matrixGroesseAendern},
         {"ladeH", "Laden", &TabulonHilfen::ladeH},
         {"speicherH", "Speichern", &TabulonHilfen::speicherH},
+        {"exaktGaussH", "Exakt: Gauß-Jordan", &TabulonHilfen::exaktGaussH},
+        {"exaktLGSH", "Exakt: Gleichungssystem", &TabulonHilfen::exaktLGSH},
+        {"exaktKernH", "Exakt: Kern und Bild", &TabulonHilfen::exaktKernH},
+        {"exaktInverseH", "Exakt: Inverse", &TabulonHilfen::exaktInverseH},
+        {"exaktDeterminanteH", "Exakt: Determinante", &TabulonHilfen::exaktDeterminanteH},
+        {"exaktEigenH", "Exakt: Eigenwerte", &TabulonHilfen::exaktEigenH},
+        {"exaktTexAusgabeH", "Exakt: TeX-Ausgabe", &TabulonHilfen::exaktTexAusgabeH},
         {"uebungH", "Zeilenumformungen üben", &TabulonHilfen::uebungH},
     }};
     return liste;
@@ -143,6 +151,28 @@ void TabulonHilfen::ladeH() {
 }
 void TabulonHilfen::speicherH() {
     fensterAusgabe(speichereHT);
+}
+
+void TabulonHilfen::exaktGaussH() {
+    fensterAusgabe(exaktGaussHT);
+}
+void TabulonHilfen::exaktLGSH() {
+    fensterAusgabe(exaktLGSHT);
+}
+void TabulonHilfen::exaktKernH() {
+    fensterAusgabe(exaktKernHT);
+}
+void TabulonHilfen::exaktInverseH() {
+    fensterAusgabe(exaktInverseHT);
+}
+void TabulonHilfen::exaktDeterminanteH() {
+    fensterAusgabe(exaktDeterminanteHT);
+}
+void TabulonHilfen::exaktEigenH() {
+    fensterAusgabe(exaktEigenHT);
+}
+void TabulonHilfen::exaktTexAusgabeH() {
+    fensterAusgabe(exaktTexAusgabeHT);
 }
 
 void TabulonHilfen::uebungH() {

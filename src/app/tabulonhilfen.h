@@ -5,6 +5,7 @@
 // changes nothing of the calculator's state.
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -22,8 +23,10 @@ public:
     std::string titel;
     bool offen = true;
 
-    // The 25 topic buttons in the order the window shows them.
-    static const std::array<Thema, 25>& themen();
+    // The topic buttons in the order the window shows them: the 24 of the classic commands, then
+    // one for each command of the menu "Exakt" and one for the practice of row operations.
+    static constexpr std::size_t anzahlThemen = 32;
+    static const std::array<Thema, anzahlThemen>& themen();
 
     void viewDidLoad();
     void viewDidAppear();
@@ -57,6 +60,13 @@ public:
     void matrixGroesseAendern();
     void ladeH();
     void speicherH();
+    void exaktGaussH();
+    void exaktLGSH();
+    void exaktKernH();
+    void exaktInverseH();
+    void exaktDeterminanteH();
+    void exaktEigenH();
+    void exaktTexAusgabeH();
     void uebungH();
 };
 

@@ -1,4 +1,4 @@
-// The application menu: one entry for each of the delegate's 23 menu actions, grouped by what
+// The application menu: one entry for each of the delegate's menu actions, grouped by what
 // they work on, the window buttons that a keyboard user wants under a key as well, and the
 // window's own entries (copy and paste of blocks, help, shortcuts, quit). Every menu and entry
 // has an access letter, unique within its menu, so that Alt and the letter reach every command.
@@ -32,7 +32,8 @@ struct Menueeintrag {
     bool trennlinieDanach = false;
 };
 
-const char* const menueTitel[] = {"&Datei", "&Liste", "&Rechnen", "&Tableau"};
+const char* const menueTitel[] = {"&Datei", "&Liste", "&Rechnen", "&Tableau", "&Exakt"};
+constexpr int anzahlMenues = 5;
 
 // Shortcuts avoid the keys a line edit keeps for itself (Ctrl+A, C, D, E, K, V, X, Y, Z, the
 // arrows with Ctrl or Shift, ...), so they also work while the cursor is in a cell. Window
@@ -79,13 +80,24 @@ const Menueeintrag eintraege[] = {
     {"rminusB", "Le&tzte Zeile entfernen (^)", "Alt+Shift+Up", 3, Art::fenster},
     {"cplusB", "&Spalte anhängen (>)", "Alt+Shift+Right", 3, Art::fenster},
     {"cminusB", "Letzte S&palte entfernen (<)", "Alt+Shift+Left", 3, Art::fenster, true},
+
+    // The exact commands are reached by their access letters (Alt+E, then the letter): the
+    // Ctrl+Alt keys that are still free lock the screen or open a terminal on common desktops.
+    {"exaktGauss", "&Gauß-Jordan Schritt für Schritt ..", "", 4},
+    {"exaktLGS", "&Lineares Gleichungssystem lösen ..", "", 4},
+    {"exaktKern", "&Kern und Bild ..", "", 4},
+    {"exaktInverse", "&Inverse ..", "", 4},
+    {"exaktDeterminante", "&Determinante ..", "", 4},
+    {"exaktEigen", "&Eigenwerte und Eigenvektoren ..", "", 4, Art::menue, true},
+    {"exaktUeben", "&Zeilenumformungen üben …", "", 4, Art::menue, true},
+    {"exaktTexAusgabe", "Letzte exakte Seite als &TeX(>Name<)", "", 4},
 };
 
 } // namespace
 
 void Hauptfenster::baueMenue() {
-    QMenu* menues[4];
-    for (int m = 0; m < 4; ++m) {
+    QMenu* menues[anzahlMenues];
+    for (int m = 0; m < anzahlMenues; ++m) {
         menues[m] = menuBar()->addMenu(QString::fromUtf8(menueTitel[m]));
     }
     for (const auto& eintrag : eintraege) {

@@ -11,7 +11,8 @@
 // invert, Gauss, kernel, orthonormalise, Gram, round), tableaubefehle.cpp (random and unit
 // matrix, border, insert, remove, size buttons, restart, quit), protokollbefehle.cpp (paging
 // through the protocol), termbefehle.cpp (term evaluation once and n times), charpolbefehl.cpp
-// (characteristic polynomial) and dateibefehle.cpp (list file, TeX export, saving the protocol).
+// (characteristic polynomial), dateibefehle.cpp (list file, TeX export, saving the protocol) and
+// exaktbefehle.cpp (the menu "Exakt": the same tasks in exact fractions, step by step).
 
 #include "textmatrix/smatrix.h"
 #include "window/plattform.h"
@@ -147,6 +148,15 @@ public:
 
     // Characteristic polynomial and real eigenvalues.
     void charPol();
+
+    // The menu "Exakt".
+    void exaktGauss();
+    void exaktLGS();
+    void exaktKern();
+    void exaktInverse();
+    void exaktDeterminante();
+    void exaktEigen();
+    void exaktTexAusgabe();
 
     // The practice of row operations on the matrix named in 'Name' (uebungsbefehl.cpp); the
     // practice stays open, and reachable here, until the next one replaces it.

@@ -1,5 +1,6 @@
 // What the transcripts of tests/transkripte/dateien cannot see: the files on disk, their exact
 // bytes, the failures of a folder and every way a list file can be damaged.
+#include "exakt/befehle.h"
 #include "files/dokumente.h"
 #include "files/listendatei.h"
 #include "files/tex.h"
@@ -42,6 +43,7 @@ protected:
     DateiTest() {
         listenZustandZuruecksetzen();
         tableauZustandZuruecksetzen();
+        exaktZustandZuruecksetzen();
         protokollZustandZuruecksetzen();
         std::string muster = (std::filesystem::temp_directory_path() / "tabulon-XXXXXX").string();
         ordner = mkdtemp(muster.data());

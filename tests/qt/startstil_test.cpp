@@ -3,6 +3,7 @@
 // program of its own, because it replaces the application's style.
 
 #include "app/appdelegate.h"
+#include "exakt/befehle.h"
 #include "qt/hauptfenster.h"
 #include "qt/hilfefenster.h"
 #include "qt/qtplattform.h"
@@ -31,6 +32,7 @@ namespace {
 std::vector<QImage> bilder() {
     listenZustandZuruecksetzen();
     tableauZustandZuruecksetzen();
+    exaktZustandZuruecksetzen();
     protokollZustandZuruecksetzen();
     termZustandZuruecksetzen();
     QtPlattform plattform;

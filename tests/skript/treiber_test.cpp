@@ -2,6 +2,7 @@
 // knows and where a script stops.
 
 #include "app/appdelegate.h"
+#include "exakt/befehle.h"
 #include "skript/skriptplattform.h"
 #include "skript/treiber.h"
 #include "skript/zufall.h"
@@ -36,6 +37,7 @@ std::tuple<int, std::string, std::string> lauf(const std::string& skript,
                                                const std::filesystem::path& dokumente = {}) {
     listenZustandZuruecksetzen();
     tableauZustandZuruecksetzen();
+    exaktZustandZuruecksetzen();
     protokollZustandZuruecksetzen();
     termZustandZuruecksetzen();
     std::ostringstream aus;

@@ -9,7 +9,10 @@
 #   "# aufruf: ARGUMENTS"   (first line only) replaces the arguments; a script not named in them
 #                           is read from standard input;
 #   "# umgebung: NAME=VALUE ..." sets environment variables (an empty VALUE unsets one);
-#   "# status: N"           expects exit status N (default 0).
+#   "# status: N"           expects exit status N (default 0);
+#   "# datei: NAME"         after the run, appends the line "datei NAME" and the content of the
+#                           file NAME of the documents folder (or the line "fehlt") to the output
+#                           that is compared, so a transcript shows what a command wrote.
 # In ARGUMENTS and VALUE, @DOKUMENTE@ stands for ARBEIT/dokumente (not created beforehand),
 # @ARBEIT@ for the work folder and @SKRIPT@ for the script's path.
 # A mismatch is reported as a unified diff of all differing lines, together with what the driver
@@ -82,6 +85,19 @@ execute_process(COMMAND ${PROGRAMM} ${argumente}
                 ERROR_FILE ${fehlerdatei}
                 RESULT_VARIABLE status
                 TIMEOUT 100)
+
+string(REGEX MATCHALL "\n#[ \t]*datei:[^\r\n]*" zeilen "\n${inhalt}")
+foreach(zeile IN LISTS zeilen)
+    string(REGEX REPLACE "^\n#[ \t]*datei:[ \t]*" "" name "${zeile}")
+    string(STRIP "${name}" name)
+    file(APPEND ${ausgabe} "datei ${name}\n")
+    if(EXISTS ${dokumente}/${name})
+        file(READ ${dokumente}/${name} text)
+        file(APPEND ${ausgabe} "${text}")
+    else()
+        file(APPEND ${ausgabe} "fehlt\n")
+    endif()
+endforeach()
 
 # The report goes to standard output as it is: message() would wrap and indent the lines.
 set(fehler "")

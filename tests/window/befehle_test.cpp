@@ -41,6 +41,7 @@ TEST_F(FensterTest, RefusedComputationsBeepAndChangeNothing) {
         SCOPED_TRACE(f);
         listenZustandZuruecksetzen();
         tableauZustandZuruecksetzen();
+        exaktZustandZuruecksetzen();
         plattform.ereignisse.clear();
         if (!faelle[f].matrix.empty()) {
             speichere("M", faelle[f].matrix);

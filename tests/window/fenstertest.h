@@ -2,6 +2,7 @@
 // A test platform that records beeps and questions, says no to every question and hands out
 // fixed random numbers; and a fixture that starts each test from a fresh process state.
 
+#include "exakt/befehle.h"
 #include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
 #include "window/tableau.h"
@@ -51,6 +52,7 @@ protected:
     FensterTest() {
         listenZustandZuruecksetzen();
         tableauZustandZuruecksetzen();
+        exaktZustandZuruecksetzen();
         protokollZustandZuruecksetzen();
     }
 
