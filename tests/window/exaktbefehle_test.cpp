@@ -156,16 +156,16 @@ TEST_F(ExaktTexTest, WritesTheLastPageNextToTheClassicExportAndBeepsWhenItCannot
     EXPECT_EQ(ovc.notizF, "Da hat irgendetwas nicht funktioniert.");
 }
 
-// The menu keeps its 23 classic actions first and in order; each exact action and help topic
-// reaches its command and its text.
+// The menu keeps its 23 classic actions first and in order, the practice last; each exact action
+// and help topic reaches its command and its text.
 TEST_F(ExaktFensterTest, MenuActionsAndHelpTopicsReachTheExactCommands) {
     const auto& namen = AppDelegate::menueNamen();
     EXPECT_EQ(namen[0], "TableauLöschen");
     EXPECT_EQ(namen[22], "protoSpeichern");
     const std::vector<std::string_view> exakt(namen.begin() + 23, namen.end());
-    EXPECT_EQ(exakt, (std::vector<std::string_view>{"exaktGauss", "exaktLGS", "exaktKern",
-                                                    "exaktInverse", "exaktDeterminante",
-                                                    "exaktEigen", "exaktTexAusgabe"}));
+    EXPECT_EQ(exakt, (std::vector<std::string_view>{
+                         "exaktGauss", "exaktLGS", "exaktKern", "exaktInverse", "exaktDeterminante",
+                         "exaktEigen", "exaktTexAusgabe", "exaktUeben"}));
     AppDelegate delegate;
     vc.viewDidLoad([&](ViewController& v) { delegate.mainVC = &v; });
     speichere("A", "2|0;0|3");
