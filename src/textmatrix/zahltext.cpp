@@ -1,17 +1,13 @@
 #include "textmatrix/zahltext.h"
 
 #include "textmatrix/liste.h"
-#include "textmatrix/zahlwege.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <climits>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <locale.h>
 
 namespace tabulon {
@@ -53,35 +49,25 @@ Gelesen lies(std::string_view text) {
     return g;
 }
 
-// printf in the C locale. The thread's locale is switched only for the duration of the call, so
-// the process locale (for instance de_DE with its decimal comma) never shows in a number.
-template <typename... Args> std::string cFormat(const char* format, Args... args) {
-    const locale_t alt = uselocale(cLocale());
-    char puffer[64];
-    const int n = std::snprintf(puffer, sizeof puffer, format, args...);
-    std::string ergebnis;
-    if (n >= 0 && static_cast<std::size_t>(n) < sizeof puffer) {
-        ergebnis.assign(puffer, static_cast<std::size_t>(n));
-    } else if (n >= 0) {
-        // Fixed-point texts of large values (up to about 310 digits) need more room.
-        ergebnis.resize(static_cast<std::size_t>(n) + 1);
-        std::snprintf(ergebnis.data(), ergebnis.size(), format, args...);
-        ergebnis.resize(static_cast<std::size_t>(n));
-    }
-    uselocale(alt);
-    return ergebnis;
+// The number texts come from std::to_chars with a precision, which the C++ standard defines as
+// printf's output for the same format in the C locale: the same digits, the same rounding of
+// ties to even, never a decimal comma.
+std::string mitPraezision(double x, std::chars_format form, int praezision) {
+    // Room for every text: %.17g needs at most 24 characters; %.*f a sign, the 309 digits
+    // before the point of the largest double, the point and the decimals.
+    std::string text(static_cast<std::size_t>(312 + praezision), '\0');
+    const char* ende =
+        std::to_chars(text.data(), text.data() + text.size(), x, form, praezision).ptr;
+    text.resize(static_cast<std::size_t>(ende - text.data()));
+    return text;
 }
 
-// to_chars with a precision gives printf's digits for the same format in the C locale; only
-// its output buffer may be too small, and then snprintf writes the text.
-std::string mitPraezision(double x, std::chars_format form, int praezision,
-                          const char* cFormatText) {
-    char puffer[128];
-    const auto [ende, fehler] = std::to_chars(puffer, puffer + sizeof puffer, x, form, praezision);
-    if (fehler != std::errc()) {
-        return cFormat(cFormatText, praezision, x);
+// The ".0" rule: a text with neither a point, nor an exponent, nor the 'n' of "inf" is an integer
+// and gets ".0", so that it reads as a real number.
+void mitPunkt(std::string& text) {
+    if (text.find_first_of(".en") == std::string::npos) {
+        text += ".0";
     }
-    return std::string(puffer, static_cast<std::size_t>(ende - puffer));
 }
 
 } // namespace
@@ -90,8 +76,18 @@ std::optional<double> text2Zahl(std::string_view text) {
     if (text.empty()) {
         return 0.0;
     }
-    if (const std::optional<double> schnell = zahlwege::text2ZahlSchnell(text)) {
-        return schnell;
+    // A decimal literal that from_chars reads whole is read exactly as strtod reads it: both
+    // round correctly. A literal ending in a digit or a point is never inf or nan (whose NaN
+    // payload strtod keeps); blanks in front, a '+', hexadecimal, overflow and underflow to zero
+    // stop from_chars, and strtod decides them.
+    const char letztes = text.back();
+    if ((letztes >= '0' && letztes <= '9') || letztes == '.') {
+        double wert = 0.0;
+        const char* ende = text.data() + text.size();
+        const auto [gelesenBis, fehler] = std::from_chars(text.data(), ende, wert);
+        if (fehler == std::errc() && gelesenBis == ende) {
+            return wert;
+        }
     }
     const Gelesen g = lies(text);
     if (g.gelesen == 0 || g.gelesen != text.size() || g.ueberlauf) {
@@ -105,26 +101,15 @@ std::optional<double> text2Zahl(std::string_view text) {
 // A NaN is written "nan" whatever its sign bit: x86 produces 0/0 with the sign set, and the
 // C library would print that as "-nan", which is not a text the system shows.
 void zahlTextIn(std::string& ziel, double x) {
-    if (x == 0.0) {
-        ziel.assign(std::signbit(x) ? "-0.0" : "0.0");
-        return;
-    }
     if (std::isnan(x)) {
         ziel.assign("nan");
         return;
     }
-    char puffer[48];
-    char* ende = nullptr;
-    if (!zahlwege::zahlTextGanzzahlig(x, ende, puffer) &&
-        !zahlwege::zahlTextKurz(x, ende, puffer)) {
-        // Near a tie, subnormals and infinities: the exact digits, with the ".0" rule.
-        ende = std::to_chars(puffer, puffer + sizeof puffer, x, std::chars_format::general, 15).ptr;
-        if (std::find_first_of(puffer, ende, ".en", ".en" + 3) == ende) {
-            std::memcpy(ende, ".0", 2);
-            ende += 2;
-        }
-    }
+    char puffer[32]; // %.15g needs at most 22 characters, "-1.23456789012345e-308"
+    const char* ende =
+        std::to_chars(puffer, puffer + sizeof puffer, x, std::chars_format::general, 15).ptr;
     ziel.assign(puffer, static_cast<std::size_t>(ende - puffer));
+    mitPunkt(ziel);
 }
 
 std::string zahlText(double x) {
@@ -143,10 +128,8 @@ std::string zahlTextVoll(double x) {
     if (std::isnan(x)) {
         return "nan";
     }
-    std::string t = mitPraezision(x, std::chars_format::general, 17, "%.*g");
-    if (t.find_first_of(".en") == std::string::npos) {
-        t += ".0";
-    }
+    std::string t = mitPraezision(x, std::chars_format::general, 17);
+    mitPunkt(t);
     return t;
 }
 
@@ -155,13 +138,7 @@ std::string festkomma(double x, int amount) {
         return "nan";
     }
     // A negative precision would mean "default" to printf; the callers' digits are 1 to 10.
-    const int stellen = amount < 0 ? 0 : amount;
-    char puffer[48];
-    char* ende = nullptr;
-    if (zahlwege::festkommaGanzzahlig(x, stellen, ende, puffer)) {
-        return std::string(puffer, static_cast<std::size_t>(ende - puffer));
-    }
-    return mitPraezision(x, std::chars_format::fixed, stellen, "%.*f");
+    return mitPraezision(x, std::chars_format::fixed, amount < 0 ? 0 : amount);
 }
 
 std::string round(double x, int amount) {
