@@ -2,6 +2,7 @@
 
 #include "textmatrix/liste.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <climits>
@@ -65,7 +66,8 @@ std::string mitPraezision(double x, std::chars_format form, int praezision) {
 // The ".0" rule: a text with neither a point, nor an exponent, nor the 'n' of "inf" is an integer
 // and gets ".0", so that it reads as a real number.
 void mitPunkt(std::string& text) {
-    if (text.find_first_of(".en") == std::string::npos) {
+    const auto nichtGanz = [](char c) { return c == '.' || c == 'e' || c == 'n'; };
+    if (std::none_of(text.begin(), text.end(), nichtGanz)) {
         text += ".0";
     }
 }
