@@ -18,9 +18,6 @@ namespace {
 // anyway, and no matrix of the system comes near it (the tableau has eight rows).
 constexpr std::int64_t tabellenGrenze = 20;
 
-// vorz(j) as a table: a term then costs no branch on the parity of its position.
-constexpr double zeichen[] = {1.0, -1.0};
-
 // Fills `tabelle` with the minors of the square block of the first m.rows columns, on the rows
 // other than `weg` (-1: all rows). A term is written as the recursion writes it: entry times
 // minor, then times the sign. When row `weg` is left out, the lowest m.rows - 1 - weg rows are
@@ -38,7 +35,7 @@ void tabelleFuellen(std::vector<double>& tabelle, const Matrix& m, std::int64_t 
         return reihen[static_cast<std::size_t>(k)][spalte];
     };
     const auto glied = [&](std::int64_t k, int spalte, std::int64_t j, double minor) {
-        return (eintrag(k, spalte) * minor) * zeichen[j % 2];
+        return (eintrag(k, spalte) * minor) * vorz(j);
     };
     const std::int64_t gleich = weg < 0 ? 0 : m.rows - 1 - weg;
     minorenFuellen(tabelle, zeilen, m.rows, eintrag, glied, gleich + 1);

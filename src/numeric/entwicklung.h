@@ -34,11 +34,19 @@ T minor(std::int64_t k, std::uint32_t menge, Eintrag& eintrag, Glied& glied,
     if (k == 1) {
         return eintrag(0, std::countr_zero(menge));
     }
+    // The sign of a term depends only on whether its position is even or odd, so the columns
+    // are taken two at a time and glied is told the parity as a constant it can fold.
     T summe{};
-    std::int64_t j = 0;
-    for (std::uint32_t rest = menge; rest != 0; rest &= rest - 1, ++j) {
-        const int spalte = std::countr_zero(rest);
-        summe = summe + glied(k - 1, spalte, j, tabelle[menge & ~(1U << spalte)]);
+    for (std::uint32_t rest = menge; rest != 0;) {
+        const int gerade = std::countr_zero(rest);
+        summe = summe + glied(k - 1, gerade, 0, tabelle[menge & ~(1U << gerade)]);
+        rest &= rest - 1;
+        if (rest == 0) {
+            break;
+        }
+        const int ungerade = std::countr_zero(rest);
+        summe = summe + glied(k - 1, ungerade, 1, tabelle[menge & ~(1U << ungerade)]);
+        rest &= rest - 1;
     }
     return summe;
 }
@@ -47,8 +55,9 @@ T minor(std::int64_t k, std::uint32_t menge, Eintrag& eintrag, Glied& glied,
 // `breite` columns (index = bit mask); sets with more columns than there are rows are left as
 // they are. Rows are counted from the bottom: the minors of k rows expand along row k - 1 so
 // counted. eintrag(k, c) is the entry in that row k and column c, a minor of one row;
-// glied(k, c, j, m) is the term of that entry with the minor m at position j of its set. T{} is
-// the zero the sums start from.
+// glied(k, c, j, m) is the term of that entry with the minor m at a position of its set whose
+// parity is j (0 even, 1 odd), which is all the sign depends on. T{} is the zero the sums start
+// from.
 //
 // Only the minors of at least `ab` rows are formed; the smaller ones must already be in
 // `tabelle` (from an expansion that shares those lowest rows).

@@ -97,7 +97,7 @@ Polynom sMatrix2Polynom(const SMatrix& s) {
         return eintraege[static_cast<std::size_t>(k * n + spalte)];
     };
     const auto glied = [&](std::int64_t k, int spalte, std::int64_t j, const Polynom& minor) {
-        return mitVorzeichen[static_cast<std::size_t>(2 * (k * n + spalte) + j % 2)] * minor;
+        return mitVorzeichen[static_cast<std::size_t>(2 * (k * n + spalte) + j)] * minor;
     };
     std::vector<Polynom> tabelle;
     minorenFuellen(tabelle, n, n, eintrag, glied);

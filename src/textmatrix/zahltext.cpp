@@ -3,6 +3,7 @@
 #include "textmatrix/liste.h"
 
 #include <algorithm>
+#include <bit>
 #include <cerrno>
 #include <charconv>
 #include <climits>
@@ -72,6 +73,72 @@ void mitPunkt(std::string& text) {
     }
 }
 
+// The one fast path, measured as needed: a term evaluated n times writes every entry of every
+// intermediate matrix as text, and to_chars with a precision takes twice as long as this.
+// It covers 1e-4 <= |x| < 1e15, where %.15g writes plain notation: the integer N nearest to
+// y = |x| 10^(14 - E), E the decimal exponent of x, as 15 significant digits, the point after
+// digit E + 1, trailing zeros of the fraction dropped. Why one multiplication finds N:
+// - 10^(14 - E) is an exact double (0 <= 14 - E <= 19), so fl(y) is y rounded once, and rounding
+//   is monotonic: 1e14 < fl(y) < 1e15 means 1e14 < y < 1e15 (both bounds are doubles), so E is
+//   the decimal exponent.
+// - Below 1e15 < 2^50 the spacing of doubles is at most 1/8, so T = floor(fl(y)) and T + 1/2
+//   are doubles and |y - fl(y)| <= 1/16. fl(y) < T + 1/2 means T - 1/16 <= y < T + 1/2: N = T.
+//   fl(y) > T + 1/2 means T + 1/2 < y < T + 1 + 1/16: N = T + 1.
+// A fraction of exactly 1/2 (a tie, which printf rounds to even, or close to one), N = 10^15
+// (the digits move into the next decade) and everything outside the range take the general way.
+bool alsGleitkommaKurz(std::string& ziel, double x) {
+    static constexpr double zehnHoch[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,
+                                          1e7,  1e8,  1e9,  1e10, 1e11, 1e12, 1e13,
+                                          1e14, 1e15, 1e16, 1e17, 1e18, 1e19};
+    const double betrag = std::fabs(x);
+    if (!(betrag >= 1e-4 && betrag < 1e15)) {
+        return false;
+    }
+    // With 2^b <= |x| < 2^(b + 1) (b read from the exponent bits of the normal double |x|),
+    // b log10 2 rounded towards zero is the decimal exponent or one off either way; the range of
+    // fl(y) tells which. Plain casts instead of std::floor, which is a library call here.
+    const int b = static_cast<int>(std::bit_cast<std::uint64_t>(betrag) >> 52) - 1023;
+    int e = static_cast<int>(b * 0.30102999566398120);
+    double y = betrag * zehnHoch[14 - e];
+    if (y < 1e14 || (y >= 1e15 && e < 14)) {
+        e += y < 1e14 ? -1 : 1;
+        y = betrag * zehnHoch[14 - e];
+    }
+    if (!(y > 1e14 && y < 1e15)) {
+        return false;
+    }
+    const auto t = static_cast<std::uint64_t>(y); // floor, as y > 0
+    const double rest = y - static_cast<double>(t);
+    if (rest == 0.5) {
+        return false;
+    }
+    const std::uint64_t n = rest < 0.5 ? t : t + 1;
+    char ziffern[16];
+    if (std::to_chars(ziffern, ziffern + sizeof ziffern, n).ptr != ziffern + 15) {
+        return false; // N = 10^15
+    }
+    // Written into a buffer and assigned once: "-0.000" and 15 digits fit in 22 characters.
+    std::size_t bruchEnde = 15;
+    while (bruchEnde > 0 && ziffern[bruchEnde - 1] == '0') {
+        --bruchEnde;
+    }
+    char text[32];
+    char* p = text;
+    *p = '-';
+    p += x < 0 ? 1 : 0;
+    const int ganz = e >= 0 ? e + 1 : 0;
+    p = e >= 0 ? std::copy_n(ziffern, ganz, p) : std::copy_n("0", 1, p);
+    *p++ = '.';
+    p = std::fill_n(p, e < 0 ? -e - 1 : 0, '0');
+    if (bruchEnde <= static_cast<std::size_t>(ganz)) {
+        *p++ = '0'; // the ".0" of an integer
+    } else {
+        p = std::copy(ziffern + ganz, ziffern + bruchEnde, p);
+    }
+    ziel.assign(text, static_cast<std::size_t>(p - text));
+    return true;
+}
+
 } // namespace
 
 std::optional<double> text2Zahl(std::string_view text) {
@@ -105,6 +172,9 @@ std::optional<double> text2Zahl(std::string_view text) {
 void zahlTextIn(std::string& ziel, double x) {
     if (std::isnan(x)) {
         ziel.assign("nan");
+        return;
+    }
+    if (alsGleitkommaKurz(ziel, x)) {
         return;
     }
     char puffer[32]; // %.15g needs at most 22 characters, "-1.23456789012345e-308"
