@@ -74,7 +74,7 @@ void mitPunkt(std::string& text) {
 }
 
 // The one fast path, measured as needed: a term evaluated n times writes every entry of every
-// intermediate matrix as text, and to_chars with a precision takes twice as long as this.
+// intermediate matrix as text, and to_chars with a precision takes longer than this.
 // It covers 1e-4 <= |x| < 1e15, where %.15g writes plain notation: the integer N nearest to
 // y = |x| 10^(14 - E), E the decimal exponent of x, as 15 significant digits, the point after
 // digit E + 1, trailing zeros of the fraction dropped. Why one multiplication finds N:
@@ -126,10 +126,13 @@ bool alsGleitkommaKurz(std::string& ziel, double x) {
     char* p = text;
     *p = '-';
     p += x < 0 ? 1 : 0;
-    const int ganz = e >= 0 ? e + 1 : 0;
-    p = e >= 0 ? std::copy_n(ziffern, ganz, p) : std::copy_n("0", 1, p);
-    *p++ = '.';
-    p = std::fill_n(p, e < 0 ? -e - 1 : 0, '0');
+    const int ganz = e >= 0 ? e + 1 : 0; // digits before the point
+    if (e >= 0) {
+        p = std::copy_n(ziffern, ganz, p);
+        *p++ = '.';
+    } else {
+        p = std::copy_n("0.000", 1 - e, p); // 0.0001234 for E = -4
+    }
     if (bruchEnde <= static_cast<std::size_t>(ganz)) {
         *p++ = '0'; // the ".0" of an integer
     } else {
