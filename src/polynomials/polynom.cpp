@@ -76,20 +76,16 @@ Polynom operator+(const Polynom& a, const Polynom& b) {
 }
 
 Polynom operator*(const Polynom& a, const Polynom& b) {
-    // Rebuilding the operands decides their degrees afresh, whatever built them.
-    const Polynom x(a.koeff());
-    const Polynom y(b.koeff());
+    // The degrees are those the constructor decided from the coefficients, which no one changes
+    // afterwards.
+    if (a.grad() + b.grad() > maxGrad || a.grad() < 0 || b.grad() < 0) {
+        return Polynom();
+    }
     Polynom::Koeffizienten k{};
-    if (x.grad() + y.grad() > maxGrad) {
-        return Polynom();
-    }
-    if (x.grad() < 0 || y.grad() < 0) {
-        return Polynom();
-    }
-    for (std::int64_t i = 0; i <= x.grad(); ++i) {
-        for (std::int64_t j = 0; j <= y.grad(); ++j) {
+    for (std::int64_t i = 0; i <= a.grad(); ++i) {
+        for (std::int64_t j = 0; j <= b.grad(); ++j) {
             auto& ziel = k[static_cast<std::size_t>(i + j)];
-            ziel = x.koeff(i) * y.koeff(j) + ziel;
+            ziel = a.koeff(i) * b.koeff(j) + ziel;
         }
     }
     return Polynom(k);

@@ -1,17 +1,15 @@
 #include "textmatrix/zahltext.h"
 
 #include "textmatrix/liste.h"
-#include "textmatrix/zahlwege.h"
 
 #include <algorithm>
+#include <bit>
 #include <cerrno>
 #include <charconv>
 #include <climits>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <locale.h>
 
 namespace tabulon {
@@ -53,35 +51,95 @@ Gelesen lies(std::string_view text) {
     return g;
 }
 
-// printf in the C locale. The thread's locale is switched only for the duration of the call, so
-// the process locale (for instance de_DE with its decimal comma) never shows in a number.
-template <typename... Args> std::string cFormat(const char* format, Args... args) {
-    const locale_t alt = uselocale(cLocale());
-    char puffer[64];
-    const int n = std::snprintf(puffer, sizeof puffer, format, args...);
-    std::string ergebnis;
-    if (n >= 0 && static_cast<std::size_t>(n) < sizeof puffer) {
-        ergebnis.assign(puffer, static_cast<std::size_t>(n));
-    } else if (n >= 0) {
-        // Fixed-point texts of large values (up to about 310 digits) need more room.
-        ergebnis.resize(static_cast<std::size_t>(n) + 1);
-        std::snprintf(ergebnis.data(), ergebnis.size(), format, args...);
-        ergebnis.resize(static_cast<std::size_t>(n));
-    }
-    uselocale(alt);
-    return ergebnis;
+// The number texts come from std::to_chars with a precision, which the C++ standard defines as
+// printf's output for the same format in the C locale: the same digits, the same rounding of
+// ties to even, never a decimal comma.
+std::string mitPraezision(double x, std::chars_format form, int praezision) {
+    // Room for every text: %.17g needs at most 24 characters; %.*f a sign, the 309 digits
+    // before the point of the largest double, the point and the decimals.
+    std::string text(static_cast<std::size_t>(312 + praezision), '\0');
+    const char* ende =
+        std::to_chars(text.data(), text.data() + text.size(), x, form, praezision).ptr;
+    text.resize(static_cast<std::size_t>(ende - text.data()));
+    return text;
 }
 
-// to_chars with a precision gives printf's digits for the same format in the C locale; only
-// its output buffer may be too small, and then snprintf writes the text.
-std::string mitPraezision(double x, std::chars_format form, int praezision,
-                          const char* cFormatText) {
-    char puffer[128];
-    const auto [ende, fehler] = std::to_chars(puffer, puffer + sizeof puffer, x, form, praezision);
-    if (fehler != std::errc()) {
-        return cFormat(cFormatText, praezision, x);
+// The ".0" rule: a text with neither a point, nor an exponent, nor the 'n' of "inf" is an integer
+// and gets ".0", so that it reads as a real number.
+void mitPunkt(std::string& text) {
+    const auto nichtGanz = [](char c) { return c == '.' || c == 'e' || c == 'n'; };
+    if (std::none_of(text.begin(), text.end(), nichtGanz)) {
+        text += ".0";
     }
-    return std::string(puffer, static_cast<std::size_t>(ende - puffer));
+}
+
+// The one fast path, measured as needed: a term evaluated n times writes every entry of every
+// intermediate matrix as text, and to_chars with a precision takes longer than this.
+// It covers 1e-4 <= |x| < 1e15, where %.15g writes plain notation: the integer N nearest to
+// y = |x| 10^(14 - E), E the decimal exponent of x, as 15 significant digits, the point after
+// digit E + 1, trailing zeros of the fraction dropped. Why one multiplication finds N:
+// - 10^(14 - E) is an exact double (0 <= 14 - E <= 19), so fl(y) is y rounded once, and rounding
+//   is monotonic: 1e14 < fl(y) < 1e15 means 1e14 < y < 1e15 (both bounds are doubles), so E is
+//   the decimal exponent.
+// - Below 1e15 < 2^50 the spacing of doubles is at most 1/8, so T = floor(fl(y)) and T + 1/2
+//   are doubles and |y - fl(y)| <= 1/16. fl(y) < T + 1/2 means T - 1/16 <= y < T + 1/2: N = T.
+//   fl(y) > T + 1/2 means T + 1/2 < y < T + 1 + 1/16: N = T + 1.
+// A fraction of exactly 1/2 (a tie, which printf rounds to even, or close to one), N = 10^15
+// (the digits move into the next decade) and everything outside the range take the general way.
+bool alsGleitkommaKurz(std::string& ziel, double x) {
+    static constexpr double zehnHoch[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,
+                                          1e7,  1e8,  1e9,  1e10, 1e11, 1e12, 1e13,
+                                          1e14, 1e15, 1e16, 1e17, 1e18, 1e19};
+    const double betrag = std::fabs(x);
+    if (!(betrag >= 1e-4 && betrag < 1e15)) {
+        return false;
+    }
+    // With 2^b <= |x| < 2^(b + 1) (b read from the exponent bits of the normal double |x|),
+    // b log10 2 rounded towards zero is the decimal exponent or one off either way; the range of
+    // fl(y) tells which. Plain casts instead of std::floor, which is a library call here.
+    const int b = static_cast<int>(std::bit_cast<std::uint64_t>(betrag) >> 52) - 1023;
+    int e = static_cast<int>(b * 0.30102999566398120);
+    double y = betrag * zehnHoch[14 - e];
+    if (y < 1e14 || (y >= 1e15 && e < 14)) {
+        e += y < 1e14 ? -1 : 1;
+        y = betrag * zehnHoch[14 - e];
+    }
+    if (!(y > 1e14 && y < 1e15)) {
+        return false;
+    }
+    const auto t = static_cast<std::uint64_t>(y); // floor, as y > 0
+    const double rest = y - static_cast<double>(t);
+    if (rest == 0.5) {
+        return false;
+    }
+    const std::uint64_t n = rest < 0.5 ? t : t + 1;
+    char ziffern[16];
+    if (std::to_chars(ziffern, ziffern + sizeof ziffern, n).ptr != ziffern + 15) {
+        return false; // N = 10^15
+    }
+    // Written into a buffer and assigned once: "-0.000" and 15 digits fit in 22 characters.
+    std::size_t bruchEnde = 15;
+    while (bruchEnde > 0 && ziffern[bruchEnde - 1] == '0') {
+        --bruchEnde;
+    }
+    char text[32];
+    char* p = text;
+    *p = '-';
+    p += x < 0 ? 1 : 0;
+    const int ganz = e >= 0 ? e + 1 : 0; // digits before the point
+    if (e >= 0) {
+        p = std::copy_n(ziffern, ganz, p);
+        *p++ = '.';
+    } else {
+        p = std::copy_n("0.000", 1 - e, p); // 0.0001234 for E = -4
+    }
+    if (bruchEnde <= static_cast<std::size_t>(ganz)) {
+        *p++ = '0'; // the ".0" of an integer
+    } else {
+        p = std::copy(ziffern + ganz, ziffern + bruchEnde, p);
+    }
+    ziel.assign(text, static_cast<std::size_t>(p - text));
+    return true;
 }
 
 } // namespace
@@ -90,8 +148,18 @@ std::optional<double> text2Zahl(std::string_view text) {
     if (text.empty()) {
         return 0.0;
     }
-    if (const std::optional<double> schnell = zahlwege::text2ZahlSchnell(text)) {
-        return schnell;
+    // A decimal literal that from_chars reads whole is read exactly as strtod reads it: both
+    // round correctly. A literal ending in a digit or a point is never inf or nan (whose NaN
+    // payload strtod keeps); blanks in front, a '+', hexadecimal, overflow and underflow to zero
+    // stop from_chars, and strtod decides them.
+    const char letztes = text.back();
+    if ((letztes >= '0' && letztes <= '9') || letztes == '.') {
+        double wert = 0.0;
+        const char* ende = text.data() + text.size();
+        const auto [gelesenBis, fehler] = std::from_chars(text.data(), ende, wert);
+        if (fehler == std::errc() && gelesenBis == ende) {
+            return wert;
+        }
     }
     const Gelesen g = lies(text);
     if (g.gelesen == 0 || g.gelesen != text.size() || g.ueberlauf) {
@@ -105,26 +173,18 @@ std::optional<double> text2Zahl(std::string_view text) {
 // A NaN is written "nan" whatever its sign bit: x86 produces 0/0 with the sign set, and the
 // C library would print that as "-nan", which is not a text the system shows.
 void zahlTextIn(std::string& ziel, double x) {
-    if (x == 0.0) {
-        ziel.assign(std::signbit(x) ? "-0.0" : "0.0");
-        return;
-    }
     if (std::isnan(x)) {
         ziel.assign("nan");
         return;
     }
-    char puffer[48];
-    char* ende = nullptr;
-    if (!zahlwege::zahlTextGanzzahlig(x, ende, puffer) &&
-        !zahlwege::zahlTextKurz(x, ende, puffer)) {
-        // Near a tie, subnormals and infinities: the exact digits, with the ".0" rule.
-        ende = std::to_chars(puffer, puffer + sizeof puffer, x, std::chars_format::general, 15).ptr;
-        if (std::find_first_of(puffer, ende, ".en", ".en" + 3) == ende) {
-            std::memcpy(ende, ".0", 2);
-            ende += 2;
-        }
+    if (alsGleitkommaKurz(ziel, x)) {
+        return;
     }
+    char puffer[32]; // %.15g needs at most 22 characters, "-1.23456789012345e-308"
+    const char* ende =
+        std::to_chars(puffer, puffer + sizeof puffer, x, std::chars_format::general, 15).ptr;
     ziel.assign(puffer, static_cast<std::size_t>(ende - puffer));
+    mitPunkt(ziel);
 }
 
 std::string zahlText(double x) {
@@ -143,10 +203,8 @@ std::string zahlTextVoll(double x) {
     if (std::isnan(x)) {
         return "nan";
     }
-    std::string t = mitPraezision(x, std::chars_format::general, 17, "%.*g");
-    if (t.find_first_of(".en") == std::string::npos) {
-        t += ".0";
-    }
+    std::string t = mitPraezision(x, std::chars_format::general, 17);
+    mitPunkt(t);
     return t;
 }
 
@@ -155,13 +213,7 @@ std::string festkomma(double x, int amount) {
         return "nan";
     }
     // A negative precision would mean "default" to printf; the callers' digits are 1 to 10.
-    const int stellen = amount < 0 ? 0 : amount;
-    char puffer[48];
-    char* ende = nullptr;
-    if (zahlwege::festkommaGanzzahlig(x, stellen, ende, puffer)) {
-        return std::string(puffer, static_cast<std::size_t>(ende - puffer));
-    }
-    return mitPraezision(x, std::chars_format::fixed, stellen, "%.*f");
+    return mitPraezision(x, std::chars_format::fixed, amount < 0 ? 0 : amount);
 }
 
 std::string round(double x, int amount) {

@@ -149,6 +149,23 @@ TEST(ZahltextVergleich, TexteWieSnprintf) {
         v.texte(9007199254740992.0 + k, 1);
         v.texte(static_cast<double>(k) / 8.0, 2);
     }
+    // Each power of ten from 1e-6 to 1e16 and the doubles around it, where the decimal exponent
+    // changes, the plain notation of %.15g begins or ends, and 15 nines round up into the next
+    // decade.
+    for (int e = -6; e <= 16; ++e) {
+        const double p = r.zahl("1e" + ganzText(e));
+        const double neun = r.zahl("9.999999999999995e" + ganzText(e - 1));
+        for (const double n : {p, neun}) {
+            double unten = n;
+            double oben = n;
+            for (int k = 0; k < 4; ++k) {
+                v.texte(unten);
+                v.texte(-oben);
+                unten = std::nextafter(unten, 0.0);
+                oben = std::nextafter(oben, 1e300);
+            }
+        }
+    }
     for (const double x : {0.0, -0.0, 1.0 / 0.0, -1.0 / 0.0, 4.9e-324, 2.2250738585072014e-308,
                            1.7976931348623157e308, 123456789012345.5, 999999999999999.5,
                            1000000000000005.0, 9.999999999999995e-5, 99999.99999999995}) {
