@@ -26,7 +26,7 @@ int main(int argc, char** argv) {
     tabulon::deutscheQtTexteLaden(programm);
     if (argc < 5) {
         std::fputs(
-            "bildschirmfoto inverse3|inverse8|markiert|hilfe|kuerzel BREITE HOEHE BILD.png\n",
+            "bildschirmfoto inverse3|inverse8|markiert|exakt|hilfe|kuerzel BREITE HOEHE BILD.png\n",
             stderr);
         return 2;
     }
@@ -71,6 +71,19 @@ int main(int argc, char** argv) {
             }
         }
         fenster.ausModell();
+    }
+    if (szene == "exakt") {
+        // The exact inverse of ((1, 2), (4, 5)): thirds, and every row operation on the page.
+        const char* eintraege[2][2] = {{"1", "2"}, {"4", "5"}};
+        for (int i = 0; i < 2; ++i) {
+            for (int j = 0; j < 2; ++j) {
+                vc.zelle(i, j).text = eintraege[i][j];
+            }
+        }
+        vc.eingabeFb = "a";
+        fenster.fensterAktion("einlistB");
+        vc.eingabeFb = "a";
+        fenster.menueAktion("exaktInverse");
     }
     if (n > 0) {
         vc.eingabeFb = "a";
