@@ -28,13 +28,6 @@ public:
     std::optional<std::filesystem::path> dokumentenOrdner() override { return std::nullopt; }
 };
 
-inline void allesZuruecksetzen() {
-    listenZustandZuruecksetzen();
-    termZustandZuruecksetzen();
-    tableauZustandZuruecksetzen();
-    protokollZustandZuruecksetzen();
-}
-
 // Types the 8 x 8 texts into the cells and presses the store button with `name` in the name
 // field.
 template <typename Eintrag>
@@ -53,7 +46,7 @@ void eintippenUndEinlisten(ViewController& vc, const std::string& name, Eintrag 
 inline void protokollKurzHalten(benchmark::State& state) {
     if ((state.iterations() & 1023) == 0) {
         state.PauseTiming();
-        protokollZustandZuruecksetzen();
+        protokollZustand() = ProtokollZustand();
         state.ResumeTiming();
     }
 }

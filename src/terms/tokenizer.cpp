@@ -4,16 +4,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 
 namespace tabulon {
 
 namespace {
-
-std::optional<TermZustand>& termSpeicher() {
-    static std::optional<TermZustand> zustand;
-    return zustand;
-}
 
 // The alphabet in token-number order (see tokenNummer in parser.h).
 constexpr std::string_view alphabetFolge = "ABCDEFGHIJKLMNOPQRSTUVWXYZr()+m*^123456789";
@@ -52,18 +46,6 @@ bool nurAscii(std::string_view text) {
 }
 
 } // namespace
-
-TermZustand& termZustand() {
-    auto& zustand = termSpeicher();
-    if (!zustand) {
-        zustand.emplace();
-    }
-    return *zustand;
-}
-
-void termZustandZuruecksetzen() {
-    termSpeicher().emplace();
-}
 
 int tokenNummer(std::string_view token) {
     if (token.size() != 1) {

@@ -3,6 +3,7 @@
 
 #include "app/appdelegate.h"
 #include "app/hilfetexte.h"
+#include "app/zustand.h"
 #include "qt/hauptfenster.h"
 #include "qt/hilfefenster.h"
 #include "qt/myview.h"
@@ -39,10 +40,7 @@ struct Aufbau {
     int blinkZaehler = 0;
 
     Aufbau() {
-        listenZustandZuruecksetzen();
-        tableauZustandZuruecksetzen();
-        protokollZustandZuruecksetzen();
-        termZustandZuruecksetzen();
+        allesZuruecksetzen();
         fenster = std::make_unique<Hauptfenster>(vc, delegate, plattform);
         plattform.blinken = [this] { ++blinkZaehler; };
         fenster->show();

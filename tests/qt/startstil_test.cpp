@@ -3,6 +3,7 @@
 // program of its own, because it replaces the application's style.
 
 #include "app/appdelegate.h"
+#include "app/zustand.h"
 #include "qt/hauptfenster.h"
 #include "qt/hilfefenster.h"
 #include "qt/qtplattform.h"
@@ -29,10 +30,7 @@ namespace {
 
 // The main window with a stored matrix, one of its menus and the help window, as pictures.
 std::vector<QImage> bilder() {
-    listenZustandZuruecksetzen();
-    tableauZustandZuruecksetzen();
-    protokollZustandZuruecksetzen();
-    termZustandZuruecksetzen();
+    allesZuruecksetzen();
     QtPlattform plattform;
     ViewController vc(plattform);
     AppDelegate delegate;

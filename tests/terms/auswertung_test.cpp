@@ -1,3 +1,4 @@
+#include "app/zustand.h"
 #include "terms/parser.h"
 #include "textmatrix/liste.h"
 #include "window/fenstertest.h"
@@ -35,12 +36,7 @@ class Auswertung : public ::testing::Test {
 protected:
     void SetUp() override { neu(); }
     void TearDown() override { neu(); }
-    static void neu() {
-        listenZustandZuruecksetzen();
-        termZustandZuruecksetzen();
-        tableauZustandZuruecksetzen();
-        protokollZustandZuruecksetzen();
-    }
+    static void neu() { allesZuruecksetzen(); }
 };
 
 // The temporaries as "name=first entry" in the order of their names.

@@ -2,6 +2,7 @@
 // A test platform that records beeps and questions, says no to every question and hands out
 // fixed random numbers; and a fixture that starts each test from a fresh process state.
 
+#include "app/zustand.h"
 #include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
 #include "window/tableau.h"
@@ -48,11 +49,7 @@ public:
 
 class FensterTest : public ::testing::Test {
 protected:
-    FensterTest() {
-        listenZustandZuruecksetzen();
-        tableauZustandZuruecksetzen();
-        protokollZustandZuruecksetzen();
-    }
+    FensterTest() { allesZuruecksetzen(); }
 
     // Types the rows into the top-left cells: {{"1", "2"}, {"3", "4"}}.
     void tippe(const std::vector<std::vector<std::string>>& zeilen) {
