@@ -60,10 +60,7 @@ void ViewController::parsStart() {
         plattform.piep();
     } else {
         const Matrix m = matrix(listenZustand().sMatrixListe.at(ergebnis.first));
-        einbettenInEinAusMatrix(m);
-        schreibStringMatrix();
-        refreshMatrixView();
-        fensterPutz();
+        schreibInsTableau(m);
         notiz("Das Ergebnis der Rechnung wird im Eingabe-Tableau angezeigt");
         ausgabe("Die Auswertung des Terms " + term + " ergibt: \n\n" + m.string());
     }
@@ -122,10 +119,7 @@ void ViewController::parsNfachStart() {
         return;
     }
     const Matrix m = matrix(liste.sMatrixListe.at(name));
-    einbettenInEinAusMatrix(m);
-    schreibStringMatrix();
-    refreshMatrixView();
-    fensterPutz();
+    schreibInsTableau(m);
     // A stopped command names the runs it did, in the note and in the protocol.
     notiz((abbruch.empty() ? "" : abbruch + " ") + "Das Ergebnis der Berechnung von " + name +
           " wird im Eingabe-Tableau angezeigt");
