@@ -13,9 +13,9 @@
 // evaluation yields the name "Fehler", which is never a list name, so it also makes every
 // enclosing evaluation fail.
 //
-// termzustand.h/.cpp (state), tokenizer.cpp (tokens), syntax.cpp (successor table and checks),
-// auswertung.cpp (evaluation), potenz.cpp (hoch), zeichen.h/.cpp (UTF-8 characters and
-// upper-casing).
+// termzustand.h/.cpp (state), operanden.h/.cpp (the operand numbers), tokenizer.cpp (tokens),
+// syntax.cpp (successor table and checks), auswertung.cpp (evaluation), potenz.cpp (hoch),
+// zeichen.h/.cpp (UTF-8 characters and upper-casing).
 
 #include "numeric/matrix.h"
 #include "terms/termzustand.h"
@@ -101,8 +101,5 @@ std::pair<Matrix, bool> hoch(const Matrix& mat, int n);
 // Removes every entry named in tempNamen from the list, except `behalten` (the target of the
 // n-fold command), and empties tempNamen.
 void tempNamenEntfernen(const std::string& behalten = "");
-
-// m.smatrix(), the standard texts, written into a text matrix from textVorrat when there is one.
-SMatrix texteVon(const Matrix& m);
 
 } // namespace tabulon

@@ -3,28 +3,18 @@
 // the scalar field before each evaluation, show fehlerListe in front of their failure line and
 // then empty it, and remove the entries named in tempNamen when the evaluation is over.
 
-#include "numeric/matrix.h"
-#include "textmatrix/smatrix.h"
+#include "terms/operanden.h"
 
-#include <array>
 #include <set>
 #include <string>
-#include <vector>
 
 namespace tabulon {
-
-struct GelesenerOperand {
-    SMatrix texte;
-    Matrix werte; // matrix(texte)
-    bool belegt = false;
-};
 
 struct TermZustand {
     std::string fehlerListe;         // messages of the term language, in the order they arose
     std::set<std::string> tempNamen; // list names that hold intermediate results
     double r = 0.0;                  // the value of the token "r"
-    std::array<GelesenerOperand, 26> gelesen;
-    std::vector<SMatrix> textVorrat;
+    Operandenspeicher operanden;     // the numbers of the list matrices last read as operands
 };
 
 TermZustand& termZustand();

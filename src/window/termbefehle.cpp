@@ -28,9 +28,8 @@ std::int64_t anzahlLaeufe(const std::string& feld) {
 
 // Stores the run's result under the target as the list stores any matrix. A temporary result
 // is removed right after the run, so its entry is swapped with the target's: the target gets the
-// result, and the target's old texts leave with the temporary, whose storage the next run
-// reuses. The result can also be the target itself, or a matrix of the list that must stay as
-// it is.
+// result, and the target's old texts leave with the temporary, so no texts are copied. The
+// result can also be the target itself, or a matrix of the list that must stay as it is.
 void ergebnisUebernehmen(const std::string& ergebnis, const std::string& ziel) {
     auto& liste = listenZustand();
     if (ergebnis != ziel) {
