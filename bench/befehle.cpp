@@ -3,6 +3,7 @@
 // computed, written into the tableau and the protocol, as the menu or the button does it.
 // Every command should answer within 50 us.
 
+#include "app/zustand.h"
 #include "fenstermodell.h"
 #include "numeric/matrix.h"
 #include "textmatrix/zahltext.h"
@@ -29,7 +30,7 @@ std::array<std::int64_t, 64> eintraege() {
 void befehl(benchmark::State& state, void (ViewController::*aktion)()) {
     StillePlattform plattform;
     ViewController vc(plattform);
-    bench::allesZuruecksetzen();
+    allesZuruecksetzen();
     const auto werte = eintraege();
     bench::eintippenUndEinlisten(vc, "A", [&werte](int i, int j) {
         return ganzText(werte[static_cast<std::size_t>(i * 8 + j)]);
@@ -72,7 +73,7 @@ void Gram(benchmark::State& state) {
 void Runden(benchmark::State& state) {
     StillePlattform plattform;
     ViewController vc(plattform);
-    bench::allesZuruecksetzen();
+    allesZuruecksetzen();
     const auto werte = eintraege();
     bench::eintippenUndEinlisten(vc, "A", [&werte](int i, int j) {
         return ganzText(werte[static_cast<std::size_t>(i * 8 + j)]);

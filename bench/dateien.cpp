@@ -4,6 +4,7 @@
 // counted by the allocation functions below; it must stay below 100 MiB, and refusing the 1 GiB
 // file below a second.
 
+#include "app/zustand.h"
 #include "fenstermodell.h"
 #include "files/listendatei.h"
 
@@ -112,7 +113,7 @@ void ladenAbgelehnt(benchmark::State& state, const Ordner& ordner, const std::st
     OrdnerPlattform plattform;
     plattform.ordner = ordner.pfad;
     ViewController vc(plattform);
-    bench::allesZuruecksetzen();
+    allesZuruecksetzen();
     miss(state, [&vc] { vc.laden(); });
     if (vc.notizF.find(notiz) == std::string::npos) {
         state.SkipWithError(vc.notizF.c_str());
@@ -147,7 +148,7 @@ void VieleNamenLaden(benchmark::State& state) {
     plattform.ordner = ordner.pfad;
     ViewController vc(plattform);
     miss(
-        state, [&vc] { vc.laden(); }, bench::allesZuruecksetzen);
+        state, [&vc] { vc.laden(); }, allesZuruecksetzen);
     if (vc.notizF != "Die im Dokumente-Ordner gespeicherten Matrizen wurden geladen. ") {
         state.SkipWithError(vc.notizF.c_str());
     }
@@ -161,7 +162,7 @@ void ZuGrossNichtSpeichern(benchmark::State& state) {
     OrdnerPlattform plattform;
     plattform.ordner = ordner.pfad;
     ViewController vc(plattform);
-    bench::allesZuruecksetzen();
+    allesZuruecksetzen();
     SMatrix m(1, 1);
     m.grid[0] = std::string(std::size_t{17} << 20, '7');
     listenZustand().sMatrixListe["A"] = std::move(m);

@@ -29,14 +29,6 @@ public:
     std::optional<std::filesystem::path> dokumentenOrdner() override { return std::nullopt; }
 };
 
-inline void allesZuruecksetzen() {
-    listenZustandZuruecksetzen();
-    termZustandZuruecksetzen();
-    tableauZustandZuruecksetzen();
-    exaktZustandZuruecksetzen();
-    protokollZustandZuruecksetzen();
-}
-
 // Types the 8 x 8 texts into the cells and presses the store button with `name` in the name
 // field.
 template <typename Eintrag>
@@ -55,7 +47,7 @@ void eintippenUndEinlisten(ViewController& vc, const std::string& name, Eintrag 
 inline void protokollKurzHalten(benchmark::State& state) {
     if ((state.iterations() & 1023) == 0) {
         state.PauseTiming();
-        protokollZustandZuruecksetzen();
+        protokollZustand() = ProtokollZustand();
         state.ResumeTiming();
     }
 }

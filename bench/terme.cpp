@@ -3,6 +3,7 @@
 // the tableau and stored as a user would. EinmalAuswerten measures parsen alone with the removal
 // of its temporaries.
 
+#include "app/zustand.h"
 #include "fenstermodell.h"
 #include "textmatrix/zahltext.h"
 
@@ -13,7 +14,7 @@ using bench::StillePlattform;
 
 // A regular 8 x 8 matrix (diagonally dominant) as A and a full one as B.
 void matrizenAnlegen(ViewController& vc) {
-    bench::allesZuruecksetzen();
+    allesZuruecksetzen();
     bench::eintippenUndEinlisten(vc, "A", [](int i, int j) {
         return zahlText(i == j ? 20.0 + static_cast<double>(i) : static_cast<double>(i + j) / 3.0);
     });

@@ -3,6 +3,7 @@
 // exactly as it was; an accepted one only adds or replaces sound matrices under sound names and
 // keeps the free names in step; and what was loaded saves and loads back unchanged.
 
+#include "app/zustand.h"
 #include "files/listendatei.h"
 #include "files/tex.h"
 #include "textmatrix/liste.h"
@@ -26,7 +27,7 @@ void pruefe(bool bedingung, const char* was) {
 }
 
 void startListe() {
-    listenZustandZuruecksetzen();
+    allesZuruecksetzen();
     ListenZustand& l = listenZustand();
     SMatrix a(2, 2);
     a.grid = {"1", "2", "3", "4"};
@@ -82,7 +83,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t gro
                 gespeichert[x] = l.sMatrixListe.at(x);
             }
         }
-        listenZustandZuruecksetzen();
+        allesZuruecksetzen();
         pruefe(codestringDecodieren(text).second, "a saved list loads again");
         pruefe(listenZustand().sMatrixListe == gespeichert, "a saved list loads back unchanged");
     }

@@ -4,6 +4,7 @@
 // exactly what they were, no temporary and no message is left over, and the command either shows
 // its result (note, protocol page, no beep) or the failure note with a beep and nothing else.
 
+#include "app/zustand.h"
 #include "terms/parser.h"
 #include "textmatrix/liste.h"
 #include "window/tableau.h"
@@ -49,10 +50,7 @@ void lege(const std::string& name, std::int64_t zeilen, std::int64_t spalten,
 
 // Square and regular, square and singular, not square, 1 x 1, and entries that are no numbers.
 void startListe() {
-    listenZustandZuruecksetzen();
-    termZustandZuruecksetzen();
-    tableauZustandZuruecksetzen();
-    protokollZustandZuruecksetzen();
+    allesZuruecksetzen();
     lege("A", 2, 2, {"1", "2", "3", "4"});
     lege("B", 2, 2, {"0.5", "-1", "1e3", "x"});
     lege("C", 2, 3, {"1", "2", "3", "4", "5", "6"});

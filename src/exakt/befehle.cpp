@@ -185,10 +185,6 @@ ExaktZustand& exaktZustand() {
     return zustand;
 }
 
-void exaktZustandZuruecksetzen() {
-    exaktZustand() = ExaktZustand();
-}
-
 void merkeSeite(const std::string& name, const Seite& seite) {
     exaktZustand().letzteSeiten[name] = seite;
 }

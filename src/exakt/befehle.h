@@ -35,7 +35,6 @@ struct ExaktZustand {
     std::map<std::string, Seite> letzteSeiten;
 };
 ExaktZustand& exaktZustand();
-void exaktZustandZuruecksetzen();
 void merkeSeite(const std::string& name, const Seite& seite);
 
 // The TeX document of the last exact page of `name`; "" when there is none.

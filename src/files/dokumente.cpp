@@ -104,13 +104,14 @@ bool allesSchreiben(int fd, const std::string& s) {
 
 // A fresh temporary file beside the target. O_EXCL makes sure we never write into a file that
 // already exists (a leftover, or a link someone placed there); the mode goes through the umask
-// like any file the user creates.
+// like any file the user creates. The process id keeps other processes out of our names, and a
+// name still taken within the process (a leftover of an earlier failure) only costs a retry, so
+// the numbers start at 0 every time and no counter outlives the call.
 int temporaerAnlegen(const std::filesystem::path& ordner, const std::string& name,
                      std::filesystem::path& temp) {
-    static unsigned zaehler = 0;
     for (int versuch = 0; versuch < 100; ++versuch) {
         temp = ordner /
-               (temporaerPraefix(name) + ganzText(::getpid()) + "-" + ganzText(zaehler++) + ".tmp");
+               (temporaerPraefix(name) + ganzText(::getpid()) + "-" + ganzText(versuch) + ".tmp");
         const int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
         if (fd >= 0 || errno != EEXIST) {
             return fd;

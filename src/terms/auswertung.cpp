@@ -1,6 +1,5 @@
 #include "terms/parser.h"
 #include "textmatrix/liste.h"
-#include "textmatrix/zahltext.h"
 
 #include <iterator>
 #include <optional>
@@ -26,15 +25,8 @@ std::optional<Matrix> operand(const Zeichenfeld& term, std::int64_t i) {
     if (name.size() != 1 || name[0] < 'A' || name[0] > 'Z' || zustand.tempNamen.contains(name)) {
         return matrix(eintrag->second);
     }
-    // The conversion depends on the texts alone, so equal texts give the remembered numbers
-    // to the last bit; any change of the entry, also by other commands, shows in the comparison.
-    auto& gelesen = zustand.gelesen[static_cast<std::size_t>(name[0] - 'A')];
-    if (!gelesen.belegt || gelesen.texte != eintrag->second) {
-        gelesen.werte = matrix(eintrag->second);
-        gelesen.texte = eintrag->second;
-        gelesen.belegt = true;
-    }
-    return gelesen.werte;
+    // Temporaries are read once, so only the user's matrices are remembered.
+    return zustand.operanden.werte(name[0], eintrag->second);
 }
 
 const std::string& token(const Zeichenfeld& term, std::int64_t i) {
@@ -56,7 +48,7 @@ std::optional<std::string> ablegen(const std::pair<Matrix, bool>& wert) {
     if (!wert.second) {
         return std::nullopt;
     }
-    auto [name, ok] = einbuchten(texteVon(wert.first));
+    auto [name, ok] = einbuchten(wert.first.smatrix());
     if (!ok) {
         return std::nullopt;
     }
@@ -126,8 +118,9 @@ bool minusSchritt(Zeichenfeld& term, std::int64_t p) {
     if (!name) {
         return false;
     }
-    // "m" and "+" are both one byte: the token is overwritten in place.
-    term[static_cast<std::size_t>(p)][0] = '+';
+    // Assigned as one character: GCC 12 wrongly warns (-Wrestrict, its bug 105329) when a string
+    // literal is assigned here.
+    term[static_cast<std::size_t>(p)].assign(1, '+');
     term[static_cast<std::size_t>(p + 1)] = std::move(*name);
     return true;
 }
@@ -284,37 +277,15 @@ NamenErgebnis parsen(std::string_view kette) {
 }
 
 void tempNamenEntfernen(const std::string& behalten) {
-    // A few text matrices are enough: one evaluation of a typical term holds two or three
-    // temporaries at a time.
-    constexpr std::size_t vorratsGrenze = 8;
     auto& liste = listenZustand();
     auto& zustand = termZustand();
     for (const auto& name : zustand.tempNamen) {
         if (name != behalten) {
-            auto knoten = liste.sMatrixListe.extract(name);
-            if (!knoten.empty() && zustand.textVorrat.size() < vorratsGrenze) {
-                zustand.textVorrat.push_back(std::move(knoten.mapped()));
-            }
+            liste.sMatrixListe.erase(name);
             liste.smNamen.insert(name);
         }
     }
     zustand.tempNamen.clear();
-}
-
-SMatrix texteVon(const Matrix& m) {
-    auto& vorrat = termZustand().textVorrat;
-    SMatrix s;
-    if (!vorrat.empty()) {
-        s = std::move(vorrat.back());
-        vorrat.pop_back();
-    }
-    s.rows = m.rows;
-    s.columns = m.columns;
-    s.grid.resize(m.grid.size());
-    for (std::size_t k = 0; k < m.grid.size(); ++k) {
-        zahlTextIn(s.grid[k], m.grid[k]);
-    }
-    return s;
 }
 
 } // namespace tabulon

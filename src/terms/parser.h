@@ -13,10 +13,12 @@
 // evaluation yields the name "Fehler", which is never a list name, so it also makes every
 // enclosing evaluation fail.
 //
-// tokenizer.cpp (tokens, state), syntax.cpp (successor table and checks), auswertung.cpp
-// (evaluation), potenz.cpp (hoch), zeichen.h/.cpp (UTF-8 characters and upper-casing).
+// termzustand.h/.cpp (state), operanden.h/.cpp (the operand numbers), tokenizer.cpp (tokens),
+// syntax.cpp (successor table and checks), auswertung.cpp (evaluation), potenz.cpp (hoch),
+// zeichen.h/.cpp (UTF-8 characters and upper-casing).
 
 #include "numeric/matrix.h"
+#include "terms/termzustand.h"
 #include "textmatrix/smatrix.h"
 
 #include <array>
@@ -30,32 +32,6 @@
 namespace tabulon {
 
 using Zeichenfeld = std::vector<std::string>;
-
-// What one evaluation shares. The commands set r from the scalar field before each evaluation,
-// show fehlerListe in front of their failure line and then empty it, and remove the entries
-// named in tempNamen when the evaluation is over.
-// The numbers of a list matrix as its texts gave them when it was last read as an operand.
-struct GelesenerOperand {
-    SMatrix texte;
-    Matrix werte; // matrix(texte)
-    bool belegt = false;
-};
-
-struct TermZustand {
-    std::string fehlerListe;         // messages of the term language, in the order they arose
-    std::set<std::string> tempNamen; // list names that hold intermediate results
-    double r = 0.0;                  // the value of the token "r"
-    // By letter A ... Z. The n-fold command reads the same operands in every run; their texts
-    // are compared with the remembered ones, and only texts that differ are converted again.
-    // Temporaries are read once and are not remembered.
-    std::array<GelesenerOperand, 26> gelesen;
-    // The text matrices of removed temporaries, kept so that the next temporaries reuse their
-    // storage instead of allocating and freeing it in every step. Never read as values.
-    std::vector<SMatrix> textVorrat;
-};
-
-TermZustand& termZustand();
-void termZustandZuruecksetzen();
 
 // The fixed token sets.
 const std::set<std::string>& termAlphabet(); // the 42 tokens of the language
@@ -125,8 +101,5 @@ std::pair<Matrix, bool> hoch(const Matrix& mat, int n);
 // Removes every entry named in tempNamen from the list, except `behalten` (the target of the
 // n-fold command), and empties tempNamen.
 void tempNamenEntfernen(const std::string& behalten = "");
-
-// m.smatrix(), the standard texts, written into a text matrix from textVorrat when there is one.
-SMatrix texteVon(const Matrix& m);
 
 } // namespace tabulon

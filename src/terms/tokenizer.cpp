@@ -4,16 +4,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 
 namespace tabulon {
 
 namespace {
-
-std::optional<TermZustand>& termSpeicher() {
-    static std::optional<TermZustand> zustand;
-    return zustand;
-}
 
 // The alphabet in token-number order (see tokenNummer in parser.h).
 constexpr std::string_view alphabetFolge = "ABCDEFGHIJKLMNOPQRSTUVWXYZr()+m*^123456789";
@@ -42,28 +36,7 @@ std::set<std::string> mengeAus(bool (*gehoertDazu)(int)) {
     return menge;
 }
 
-bool nurAscii(std::string_view text) {
-    for (const char c : text) {
-        if (static_cast<unsigned char>(c) >= 0x80) {
-            return false;
-        }
-    }
-    return true;
-}
-
 } // namespace
-
-TermZustand& termZustand() {
-    auto& zustand = termSpeicher();
-    if (!zustand) {
-        zustand.emplace();
-    }
-    return *zustand;
-}
-
-void termZustandZuruecksetzen() {
-    termSpeicher().emplace();
-}
 
 int tokenNummer(std::string_view token) {
     if (token.size() != 1) {
@@ -108,26 +81,6 @@ const std::set<std::string>& nieRechts() {
 Zeichenfeld string2ZeichenFeld(std::string_view quelle) {
     Zeichenfeld feld;
     feld.reserve(quelle.size());
-    if (nurAscii(quelle)) {
-        // Plain ASCII, as terms are typed: every byte is one character except "\r\n", and
-        // upper-casing touches only "a" ... "z". Spares the general splitting its list of views.
-        for (std::size_t i = 0; i < quelle.size(); ++i) {
-            const char c = quelle[i];
-            if (c == '-') {
-                feld.emplace_back("m");
-            } else if (c == 'r') {
-                feld.emplace_back("r");
-            } else if (c == '\r' && i + 1 < quelle.size() && quelle[i + 1] == '\n') {
-                feld.emplace_back("\r\n");
-                ++i;
-            } else if (c >= 'a' && c <= 'z') {
-                feld.emplace_back(1, static_cast<char>(c - 'a' + 'A'));
-            } else if (c != ' ') {
-                feld.emplace_back(1, c);
-            }
-        }
-        return feld;
-    }
     for (const std::string_view zeichen : zeichenZerlegen(quelle)) {
         if (zeichen == "-") {
             feld.emplace_back("m");

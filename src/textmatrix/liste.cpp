@@ -4,17 +4,6 @@
 
 namespace tabulon {
 
-ListenZustand::ListenZustand() : smNamen(alphabetGross()) {}
-
-ListenZustand& listenZustand() {
-    static ListenZustand zustand;
-    return zustand;
-}
-
-void listenZustandZuruecksetzen() {
-    listenZustand() = ListenZustand();
-}
-
 const std::set<std::string>& alphabetGross() {
     static const std::set<std::string> namen = [] {
         std::set<std::string> s;

@@ -1,7 +1,7 @@
 #pragma once
 // The process-wide matrix list with its names and settings. All of it is touched only from the
 // user-interface thread; listenZustand() creates it with its start values on first use, and
-// listenZustandZuruecksetzen() gives tests a fresh start.
+// allesZuruecksetzen() (app/zustand.h) assigns them again.
 
 #include "textmatrix/smatrix.h"
 
@@ -25,7 +25,6 @@ struct ListenZustand {
 };
 
 ListenZustand& listenZustand();
-void listenZustandZuruecksetzen();
 
 // The fixed tables.
 inline const std::string lf = "\n";

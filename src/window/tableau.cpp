@@ -4,21 +4,10 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <memory>
 
 namespace tabulon {
 
 namespace {
-
-std::unique_ptr<TableauZustand>& tableauSpeicher() {
-    static std::unique_ptr<TableauZustand> zustand;
-    return zustand;
-}
-
-std::unique_ptr<ProtokollZustand>& protokollSpeicher() {
-    static std::unique_ptr<ProtokollZustand> zustand;
-    return zustand;
-}
 
 // rowmax and columnmax always name a row and a column of the 8 x 8 tableau, even when a matrix
 // of an unexpected size (none or more than 8 rows, say from a foreign list file) is embedded.
@@ -27,30 +16,6 @@ int sichtbarerIndex(std::int64_t anzahl) {
 }
 
 } // namespace
-
-TableauZustand& tableauZustand() {
-    auto& zustand = tableauSpeicher();
-    if (!zustand) {
-        zustand = std::make_unique<TableauZustand>();
-    }
-    return *zustand;
-}
-
-void tableauZustandZuruecksetzen() {
-    tableauSpeicher() = std::make_unique<TableauZustand>();
-}
-
-ProtokollZustand& protokollZustand() {
-    auto& zustand = protokollSpeicher();
-    if (!zustand) {
-        zustand = std::make_unique<ProtokollZustand>();
-    }
-    return *zustand;
-}
-
-void protokollZustandZuruecksetzen() {
-    protokollSpeicher() = std::make_unique<ProtokollZustand>();
-}
 
 void refreshMatrixView() {
     auto& t = tableauZustand();

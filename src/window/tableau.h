@@ -1,8 +1,8 @@
 #pragma once
 // The process-wide state of the input tableau and of the protocol pages, and the primitives on
 // them that do not need the window itself. tableauZustand() and protokollZustand() create the
-// state with its start values on first use; the ...Zuruecksetzen() functions give tests a fresh
-// start.
+// state with its start values on first use; allesZuruecksetzen() (app/zustand.h) assigns them
+// again.
 
 #include "numeric/matrix.h"
 #include "textmatrix/smatrix.h"
@@ -18,13 +18,12 @@ struct TableauZustand {
     int columnmax = 7;                   // index of the last visible column
     std::array<bool, 80> fensterZustand; // hidden flag of cell (i, j) at i * 10 + j
     SMatrix strEinAusMatrix{8, 8};       // the in/out text matrix, always 8 x 8
-    const SMatrix leerMatrix{8, 8};      // a blank tableau, never changed
+    SMatrix leerMatrix{8, 8};            // a blank tableau, never changed
 
     TableauZustand() { fensterZustand.fill(true); }
 };
 
 TableauZustand& tableauZustand();
-void tableauZustandZuruecksetzen();
 
 struct ProtokollZustand {
     std::vector<std::string> protokoll{std::string()}; // page 0 is the empty start page
@@ -33,7 +32,6 @@ struct ProtokollZustand {
 };
 
 ProtokollZustand& protokollZustand();
-void protokollZustandZuruecksetzen();
 
 void refreshMatrixView();
 void rowplus();

@@ -28,9 +28,8 @@ std::int64_t anzahlLaeufe(const std::string& feld) {
 
 // Stores the run's result under the target as the list stores any matrix. A temporary result
 // is removed right after the run, so its entry is swapped with the target's: the target gets the
-// result, and the target's old texts leave with the temporary, whose storage the next run
-// reuses. The result can also be the target itself, or a matrix of the list that must stay as
-// it is.
+// result, and the target's old texts leave with the temporary, so no texts are copied. The
+// result can also be the target itself, or a matrix of the list that must stay as it is.
 void ergebnisUebernehmen(const std::string& ergebnis, const std::string& ziel) {
     auto& liste = listenZustand();
     if (ergebnis != ziel) {
@@ -60,10 +59,7 @@ void ViewController::parsStart() {
         plattform.piep();
     } else {
         const Matrix m = matrix(listenZustand().sMatrixListe.at(ergebnis.first));
-        einbettenInEinAusMatrix(m);
-        schreibStringMatrix();
-        refreshMatrixView();
-        fensterPutz();
+        schreibInsTableau(m);
         notiz("Das Ergebnis der Rechnung wird im Eingabe-Tableau angezeigt");
         ausgabe("Die Auswertung des Terms " + term + " ergibt: \n\n" + m.string());
     }
@@ -122,10 +118,7 @@ void ViewController::parsNfachStart() {
         return;
     }
     const Matrix m = matrix(liste.sMatrixListe.at(name));
-    einbettenInEinAusMatrix(m);
-    schreibStringMatrix();
-    refreshMatrixView();
-    fensterPutz();
+    schreibInsTableau(m);
     // A stopped command names the runs it did, in the note and in the protocol.
     notiz((abbruch.empty() ? "" : abbruch + " ") + "Das Ergebnis der Berechnung von " + name +
           " wird im Eingabe-Tableau angezeigt");

@@ -102,21 +102,27 @@ SMatrix ViewController::sichtbarerBlock() const {
     return m;
 }
 
-void ViewController::schreibInsTableau(const SMatrix& r) {
+namespace {
+
+// Both forms of schreibInsTableau: the embedding chosen by the matrix type, then the cells, the
+// hidden flags and the cleaned window, in this order. The numeric embedding leaves the hidden
+// part of the in/out matrix as it was until the refresh after writing the cells, so hidden cells
+// may keep older texts; that order is the kernel command's and is kept on purpose.
+template <typename M> void insTableau(ViewController& vc, const M& r) {
     einbettenInEinAusMatrix(r);
-    schreibStringMatrix();
+    vc.schreibStringMatrix();
     refreshMatrixView();
-    fensterPutz();
+    vc.fensterPutz();
 }
 
-// The numeric embedding leaves the hidden part of the in/out matrix as it was until the refresh
-// after writing the cells, so hidden cells may keep older texts; that order is the kernel
-// command's and is kept on purpose.
+} // namespace
+
+void ViewController::schreibInsTableau(const SMatrix& r) {
+    insTableau(*this, r);
+}
+
 void ViewController::schreibInsTableau(const Matrix& r) {
-    einbettenInEinAusMatrix(r);
-    schreibStringMatrix();
-    refreshMatrixView();
-    fensterPutz();
+    insTableau(*this, r);
 }
 
 void ViewController::ausgabe(const std::string& t) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/zustand.h"
 #include "exakt/befehle.h"
 #include "zufallsmatrix.h"
 
@@ -146,7 +147,7 @@ TEST(ExaktBefehle, FalscherEintragLehntJedenBefehlAb) {
 }
 
 TEST(ExaktBefehle, TexDerLetztenSeite) {
-    exaktZustandZuruecksetzen();
+    allesZuruecksetzen();
     EXPECT_EQ(exaktTex("A"), "");
     ExaktAntwort a = exaktLGS("A", texte({{"1", "2", "4"}, {"3", "-1", "-2"}}));
     merkeSeite("A", a.seite);
@@ -156,6 +157,6 @@ TEST(ExaktBefehle, TexDerLetztenSeite) {
     EXPECT_TRUE(enthaelt(tex, "Z2 \\ensuremath{\\leftarrow} \\ensuremath{-\\frac{1}{7}}"
                               "\\ensuremath{\\cdot}Z2"))
         << tex;
-    exaktZustandZuruecksetzen();
+    allesZuruecksetzen();
     EXPECT_EQ(exaktTex("A"), "");
 }

@@ -1,6 +1,6 @@
 // What the transcripts of tests/transkripte/dateien cannot see: the files on disk, their exact
 // bytes, the failures of a folder and every way a list file can be damaged.
-#include "exakt/befehle.h"
+#include "app/zustand.h"
 #include "files/dokumente.h"
 #include "files/listendatei.h"
 #include "files/tex.h"
@@ -41,10 +41,7 @@ public:
 class DateiTest : public ::testing::Test {
 protected:
     DateiTest() {
-        listenZustandZuruecksetzen();
-        tableauZustandZuruecksetzen();
-        exaktZustandZuruecksetzen();
-        protokollZustandZuruecksetzen();
+        allesZuruecksetzen();
         std::string muster = (std::filesystem::temp_directory_path() / "tabulon-XXXXXX").string();
         ordner = mkdtemp(muster.data());
         plattform.ordner = ordner;
@@ -96,7 +93,7 @@ TEST_F(DateiTest, SpeichernErsetztDieDateiGanzOderLaesstSieStehen) {
     vc.speichern();
     EXPECT_EQ(inhalt("Matrix_MatDats.txt"), "A%2%2%1%2%3%4%C%1%3%-0.5%1e3%0.0%end%");
     // The shorter text replaces the file whole, and no temporary file is left behind.
-    listenZustandZuruecksetzen();
+    allesZuruecksetzen();
     vc.speichern();
     EXPECT_EQ(inhalt("Matrix_MatDats.txt"), "end%");
     EXPECT_EQ(dateien(), 1);
@@ -184,14 +181,14 @@ TEST_F(DateiTest, GrosseDateienKostenNurIhreGrenze) {
 
     // What the writer accepts, the reader loads back: a list just at the limit saves and loads;
     // one byte more is refused before anything is written.
-    listenZustandZuruecksetzen();
+    allesZuruecksetzen();
     const std::string rahmen = "A%1%1%%end%";
     liste("A", 1, {std::string(groessteListendatei - rahmen.size(), '7')});
     EXPECT_EQ(codierteLaenge(), groessteListendatei);
     vc.speichern();
     EXPECT_EQ(vc.notizF, "Die Matrizen der Liste wurden im Dokument-Ordner gespeichert.");
     const ListenZustand gespeichert = listenZustand();
-    listenZustandZuruecksetzen();
+    allesZuruecksetzen();
     vc.laden();
     EXPECT_EQ(listenZustand().sMatrixListe, gespeichert.sMatrixListe);
     listenZustand().sMatrixListe["A"].grid[0] += "7";
@@ -280,7 +277,7 @@ TEST_F(DateiTest, SpeichernVerweigertWasNichtZurueckkaeme) {
     liste("M", 1, {"\xcc\x81 1 2"});
     EXPECT_EQ(speicherHindernis(), std::nullopt);
     const std::string text = alleMatrizenCodieren();
-    listenZustandZuruecksetzen();
+    allesZuruecksetzen();
     EXPECT_TRUE(codestringDecodieren(text).second);
     EXPECT_EQ(listenZustand().sMatrixListe.at("M").grid[0], "\xcc\x81"
                                                             "12");

@@ -2,6 +2,7 @@
 // area, marked non-numbers, pasting, the close question and the keyboard.
 
 #include "app/appdelegate.h"
+#include "app/zustand.h"
 #include "qt/eintragspruefung.h"
 #include "qt/hauptfenster.h"
 #include "qt/qtplattform.h"
@@ -43,10 +44,7 @@ struct Aufbau {
     std::unique_ptr<Hauptfenster> fenster;
 
     explicit Aufbau(QSize groesse = QSize(1280, 800)) {
-        listenZustandZuruecksetzen();
-        tableauZustandZuruecksetzen();
-        protokollZustandZuruecksetzen();
-        termZustandZuruecksetzen();
+        allesZuruecksetzen();
         fenster = std::make_unique<Hauptfenster>(vc, delegate, plattform);
         plattform.blinken = nullptr;
         fenster->resize(groesse);

@@ -4,7 +4,7 @@
 #include "app/appdelegate.h"
 #include "app/hilfetexte.h"
 #include "app/tabulonhilfen.h"
-#include "exakt/befehle.h"
+#include "app/zustand.h"
 #include "qt/hauptfenster.h"
 #include "qt/hilfefenster.h"
 #include "qt/myview.h"
@@ -41,11 +41,7 @@ struct Aufbau {
     int blinkZaehler = 0;
 
     Aufbau() {
-        listenZustandZuruecksetzen();
-        tableauZustandZuruecksetzen();
-        exaktZustandZuruecksetzen();
-        protokollZustandZuruecksetzen();
-        termZustandZuruecksetzen();
+        allesZuruecksetzen();
         fenster = std::make_unique<Hauptfenster>(vc, delegate, plattform);
         plattform.blinken = [this] { ++blinkZaehler; };
         fenster->show();

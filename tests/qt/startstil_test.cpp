@@ -3,7 +3,7 @@
 // program of its own, because it replaces the application's style.
 
 #include "app/appdelegate.h"
-#include "exakt/befehle.h"
+#include "app/zustand.h"
 #include "qt/hauptfenster.h"
 #include "qt/hilfefenster.h"
 #include "qt/qtplattform.h"
@@ -30,11 +30,7 @@ namespace {
 
 // The main window with a stored matrix, one of its menus and the help window, as pictures.
 std::vector<QImage> bilder() {
-    listenZustandZuruecksetzen();
-    tableauZustandZuruecksetzen();
-    exaktZustandZuruecksetzen();
-    protokollZustandZuruecksetzen();
-    termZustandZuruecksetzen();
+    allesZuruecksetzen();
     QtPlattform plattform;
     ViewController vc(plattform);
     AppDelegate delegate;

@@ -3,6 +3,7 @@
 // window's tableau on the screen.
 
 #include "app/appdelegate.h"
+#include "app/zustand.h"
 #include "qt/hauptfenster.h"
 #include "qt/qtplattform.h"
 #include "qt/uebungsfenster.h"
@@ -27,9 +28,7 @@ class UebungsfensterTest : public QObject {
 
 private slots:
     void keyboardAlone() {
-        listenZustandZuruecksetzen();
-        tableauZustandZuruecksetzen();
-        protokollZustandZuruecksetzen();
+        allesZuruecksetzen();
         QtPlattform plattform;
         ViewController vc{plattform};
         AppDelegate delegate;

@@ -2,7 +2,7 @@
 // knows and where a script stops.
 
 #include "app/appdelegate.h"
-#include "exakt/befehle.h"
+#include "app/zustand.h"
 #include "skript/skriptplattform.h"
 #include "skript/treiber.h"
 #include "skript/zufall.h"
@@ -35,11 +35,7 @@ TEST(Zufall, StaysBelowTheBound) {
 // error output).
 std::tuple<int, std::string, std::string> lauf(const std::string& skript,
                                                const std::filesystem::path& dokumente = {}) {
-    listenZustandZuruecksetzen();
-    tableauZustandZuruecksetzen();
-    exaktZustandZuruecksetzen();
-    protokollZustandZuruecksetzen();
-    termZustandZuruecksetzen();
+    allesZuruecksetzen();
     std::ostringstream aus;
     std::ostringstream fehler;
     SkriptPlattform p(aus, 1, dokumente, [](int) {});

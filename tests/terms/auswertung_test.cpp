@@ -1,3 +1,4 @@
+#include "app/zustand.h"
 #include "terms/parser.h"
 #include "textmatrix/liste.h"
 #include "window/fenstertest.h"
@@ -35,12 +36,7 @@ class Auswertung : public ::testing::Test {
 protected:
     void SetUp() override { neu(); }
     void TearDown() override { neu(); }
-    static void neu() {
-        listenZustandZuruecksetzen();
-        termZustandZuruecksetzen();
-        tableauZustandZuruecksetzen();
-        protokollZustandZuruecksetzen();
-    }
+    static void neu() { allesZuruecksetzen(); }
 };
 
 // The temporaries as "name=first entry" in the order of their names.
@@ -213,23 +209,6 @@ TEST_F(Auswertung, GeaenderteOperandenWerdenNeuGelesen) {
             << a.rows << "x" << a.columns << " " << a.grid.back();
         tempNamenEntfernen();
     }
-}
-
-// Temporaries are written into the storage of removed ones; whatever size that storage had, the
-// texts must be exactly the standard texts of the value and nothing of the old matrix may stay.
-TEST_F(Auswertung, WiederverwendeteTexteSindDieStandardtexte) {
-    const double werte[] = {-0.0, 0.1, 1.0 / 3.0, 1e-7, -2.5, 1e300, 2e-310, 7.0};
-    for (const auto& [zeilen, spalten] : {std::pair{3, 3}, {1, 2}, {8, 8}, {0, 0}, {2, 1}}) {
-        Matrix m(zeilen, spalten);
-        for (std::size_t k = 0; k < m.grid.size(); ++k) {
-            m.grid[k] = werte[(k + static_cast<std::size_t>(zeilen)) % 8] * (zeilen + 1.0);
-        }
-        const auto [name, ok] = einbuchten(texteVon(m));
-        ASSERT_TRUE(ok);
-        EXPECT_EQ(listenZustand().sMatrixListe.at(name), m.smatrix()) << m.rows << "x" << m.columns;
-        tempNamenEntfernen();
-    }
-    EXPECT_FALSE(termZustand().textVorrat.empty());
 }
 
 // The result of every n-fold run reaches the target, whether it is a temporary handed over to a

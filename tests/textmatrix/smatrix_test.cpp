@@ -1,3 +1,4 @@
+#include "app/zustand.h"
 #include "textmatrix/liste.h"
 #include "textmatrix/smatrix.h"
 
@@ -71,7 +72,7 @@ TEST(SMatrix, UmbauenOhneNeunteZeileOderSpalteUndOhneLetzteZuLoeschen) {
 // Empty rows go before the gaps are filled: the middle row disappears, the gap in the last row
 // becomes "0.0", nine blanks are no gap.
 TEST(Liste, EinlistenFuelltLueckenNachDenLeerzeilen) {
-    listenZustandZuruecksetzen();
+    allesZuruecksetzen();
     const SMatrix m = aus(3, 3, {"1", "2", "         ", "", "", " ", "3", "   ", "9"});
     ASSERT_TRUE(m.einlistenAls("B").second);
     EXPECT_EQ(listenZustand().sMatrixListe.at("B"),
@@ -79,7 +80,7 @@ TEST(Liste, EinlistenFuelltLueckenNachDenLeerzeilen) {
     for (const char* name : {"B", "?", "a", "AB", ""}) {
         EXPECT_FALSE(SMatrix::freierMatrixname(name)) << name;
     }
-    listenZustandZuruecksetzen();
+    allesZuruecksetzen();
 }
 
 // The first free name in the order A ... Z; texts that are no letter name never count, wherever
@@ -95,7 +96,7 @@ TEST(Liste, FreierNameNurAusDenBuchstaben) {
         listenZustand().smNamen = frei;
         EXPECT_EQ(naechsterFreierName(), erwartet);
     }
-    listenZustandZuruecksetzen();
+    allesZuruecksetzen();
 }
 
 // One column up to ten names, two up to twenty, then three; no line break after the last name of
@@ -108,13 +109,13 @@ TEST(Liste, AktuelleListeInEinerZweiUndDreiSpalten) {
         {21, "ABC\nDEF\nGHI\nJKL\nMNO\nPQR\nSTU\n"},
         {26, "ABC\nDEF\nGHI\nJKL\nMNO\nPQR\nSTU\nVWX\nYZ"}};
     for (const auto& [anzahl, text] : faelle) {
-        listenZustandZuruecksetzen();
+        allesZuruecksetzen();
         for (int i = 0; i < anzahl; ++i) {
             aus(1, 1, {"1"}).einlistenAls(std::string(1, static_cast<char>('A' + i)));
         }
         EXPECT_EQ(aktuelleListe(), text) << anzahl << " names";
     }
-    listenZustandZuruecksetzen();
+    allesZuruecksetzen();
 }
 
 } // namespace

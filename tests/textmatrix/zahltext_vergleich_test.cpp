@@ -2,6 +2,7 @@
 // millions of doubles and texts: a shortcut in the conversions shows up as the first input where
 // the two disagree.
 
+#include "app/zustand.h"
 #include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
 
@@ -214,14 +215,14 @@ TEST(ZahltextVergleich, ZahlenWieStrtod) {
 }
 
 TEST(Zahltext, RoundSchwelleAusDezimalenStellenAusAmount) {
-    listenZustandZuruecksetzen();
+    allesZuruecksetzen();
     EXPECT_EQ(round(-0.00000004, 6), "0.000000");
     EXPECT_EQ(round(-0.0000004, 6), "-0.000000");
     EXPECT_EQ(round(-0.00000004, 10), "0.0000000000");
     listenZustand().dezimalen = 2;
     EXPECT_EQ(round(-0.0001, 6), "0.000000");
     EXPECT_EQ(round(-0.001, 2), "-0.00");
-    listenZustandZuruecksetzen();
+    allesZuruecksetzen();
 
     EXPECT_EQ(xrunden(0.123456789), 0.1234568);
     EXPECT_EQ(xrunden(-0.00000005), -1e-07); // half away from zero

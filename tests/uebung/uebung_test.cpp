@@ -1,6 +1,7 @@
 // The practice: hints retrace exaktGauss, the echelon checks, row equivalence, and the window
 // model's buttons (refusals beep and change nothing, undo, the list stays as it was).
 
+#include "app/zustand.h"
 #include "uebung/uebungscontroller.h"
 #include "uebung/zeilenparser.h"
 
@@ -122,7 +123,7 @@ public:
 
 class UebungsFensterTest : public ::testing::Test {
 protected:
-    UebungsFensterTest() { listenZustandZuruecksetzen(); }
+    UebungsFensterTest() { allesZuruecksetzen(); }
     ProtokollPlattform plattform;
     std::vector<SMatrix> tableau;
     UebungsController vc{plattform, Uebung("A", bm({{"2", "4"}, {"1", "3"}})),

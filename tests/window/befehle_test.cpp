@@ -2,6 +2,7 @@
 // commands in one table, the free-name button with every letter taken, and how random numbers
 // become entries.
 
+#include "app/zustand.h"
 #include "fenstertest.h"
 
 namespace tabulon {
@@ -39,9 +40,7 @@ TEST_F(FensterTest, RefusedComputationsBeepAndChangeNothing) {
     };
     for (std::size_t f = 0; f < faelle.size(); ++f) {
         SCOPED_TRACE(f);
-        listenZustandZuruecksetzen();
-        tableauZustandZuruecksetzen();
-        exaktZustandZuruecksetzen();
+        allesZuruecksetzen();
         plattform.ereignisse.clear();
         if (!faelle[f].matrix.empty()) {
             speichere("M", faelle[f].matrix);

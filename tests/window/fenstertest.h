@@ -2,7 +2,7 @@
 // A test platform that records beeps and questions, says no to every question and hands out
 // fixed random numbers; and a fixture that starts each test from a fresh process state.
 
-#include "exakt/befehle.h"
+#include "app/zustand.h"
 #include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
 #include "window/tableau.h"
@@ -49,12 +49,7 @@ public:
 
 class FensterTest : public ::testing::Test {
 protected:
-    FensterTest() {
-        listenZustandZuruecksetzen();
-        tableauZustandZuruecksetzen();
-        exaktZustandZuruecksetzen();
-        protokollZustandZuruecksetzen();
-    }
+    FensterTest() { allesZuruecksetzen(); }
 
     // Types the rows into the top-left cells: {{"1", "2"}, {"3", "4"}}.
     void tippe(const std::vector<std::vector<std::string>>& zeilen) {
