@@ -4,6 +4,7 @@
 // command should answer below 50 ms, with six-digit decimals below 200 ms; the TeX export writes
 // the page of the last answer (the documents folder is unknown here, so no disk is measured).
 
+#include "app/zustand.h"
 #include "exakt/befehle.h"
 #include "exakt/zufallsmatrix.h" // tests/exakt: the same matrices the tests use
 #include "fenstermodell.h"
@@ -17,7 +18,7 @@ using exakttest::Art;
 void befehl(benchmark::State& state, void (ViewController::*aktion)(), Art art) {
     StillePlattform plattform;
     ViewController vc(plattform);
-    bench::allesZuruecksetzen();
+    allesZuruecksetzen();
     exakttest::Zufall z{20261124};
     const SMatrix a = exakttest::zufallsMatrix(z, 8, 8, art);
     bench::eintippenUndEinlisten(vc, "A", [&a](int i, int j) { return a(i, j); });

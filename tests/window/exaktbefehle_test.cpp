@@ -5,6 +5,7 @@
 
 #include "app/appdelegate.h"
 #include "app/tabulonhilfen.h"
+#include "exakt/befehle.h"
 #include "exakt/hilfe.h"
 
 #include <algorithm>
