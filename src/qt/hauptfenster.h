@@ -13,6 +13,8 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 class QCheckBox;
 class QLabel;
@@ -63,7 +65,7 @@ private:
     void dokumentenOrdnerZeigen();
 
     QPushButton* knopf(const QString& titel, const char* name, const QString& hinweis);
-    QLineEdit* feld(const char* name, std::string ViewController::*wert);
+    QLineEdit* feld(const char* name);
     void blinken();
 
     ViewController& vc;
@@ -88,6 +90,8 @@ private:
     QPushButton* infoUndHilfeB = nullptr;
     QPointer<Hilfefenster> hilfe;
     QMenu* dateiMenue = nullptr;
+    // Every line edit made by feld(), with the model's text it shows.
+    std::vector<std::pair<QLineEdit*, std::string ViewController::*>> zeilen;
     bool blinktGerade = false;
 };
 
