@@ -1,4 +1,4 @@
-// The application menu: one entry for each of the delegate's menu actions, grouped by what
+// The application menu: one entry for each of the model's menu actions, grouped by what
 // they work on, the window buttons that a keyboard user wants under a key as well, and the
 // window's own entries (copy and paste of blocks, help, shortcuts, quit). Every menu and entry
 // has an access letter, unique within its menu, so that Alt and the letter reach every command.
