@@ -4,13 +4,13 @@
 
 namespace tabulon {
 
-std::string tex(const std::string& name) {
+std::string tex(const std::string& name, int dezimalen) {
     const auto& liste = listenZustand().sMatrixListe;
     const auto gefunden = liste.find(name);
     if (gefunden == liste.end()) {
         return "";
     }
-    const SMatrix m = gefunden->second.gerundet();
+    const SMatrix m = gefunden->second.gerundet(dezimalen);
     std::string s = "\\begin {displaymath}\n";
     s += name + " = \\left(\\begin {array} {" +
          std::string(static_cast<std::size_t>(m.columns), 'c') + "}\n";
@@ -27,12 +27,12 @@ std::string tex(const std::string& name) {
     return s;
 }
 
-std::string texAlle() {
+std::string texAlle(int dezimalen) {
     const auto& liste = listenZustand().sMatrixListe;
     std::string s;
     for (const std::string& x : grossBuchstaben()) {
         if (liste.count(x) != 0) {
-            s += x + ":\n" + tex(x) + "\n\n";
+            s += x + ":\n" + tex(x, dezimalen) + "\n\n";
         }
     }
     return s;

@@ -165,8 +165,7 @@ std::pair<Matrix, std::vector<std::int64_t>> Matrix::killNullspalten() const {
     return {k, weg};
 }
 
-std::string Matrix::string() const {
-    const int dezimalen = listenZustand().dezimalen;
+std::string Matrix::string(int dezimalen) const {
     std::string text;
     for (std::int64_t i = 0; i < rows; ++i) {
         for (std::int64_t j = 0; j < columns; ++j) {
@@ -215,8 +214,7 @@ SMatrix Matrix::smatrix() const {
     return s;
 }
 
-SMatrix Matrix::gerundet() const {
-    const int dezimalen = listenZustand().dezimalen;
+SMatrix Matrix::gerundet(int dezimalen) const {
     SMatrix s(rows, columns);
     for (std::size_t k = 0; k < grid.size(); ++k) {
         s.grid[k] = round(grid[k], dezimalen);

@@ -40,14 +40,15 @@ struct Matrix {
     Matrix plusNullzeile(std::int64_t rowNr) const;
     Matrix killNullzeilen() const;
     std::pair<Matrix, std::vector<std::int64_t>> killNullspalten() const;
-    std::string string() const; // entries as round(x, dezimalen) + " \t", rows ended by lf
+    std::string
+    string(int dezimalen) const; // entries as round(x, dezimalen) + " \t", rows ended by lf
 
     void zeileMalZahl(std::int64_t z, double d);
     void zeilenTausch(std::int64_t i, std::int64_t j);
     void elZeilenTransf(double x, std::int64_t quellz, std::int64_t zielz);
 
-    SMatrix smatrix() const;  // standard texts
-    SMatrix gerundet() const; // round(x, dezimalen)
+    SMatrix smatrix() const;               // standard texts
+    SMatrix gerundet(int dezimalen) const; // round(x, dezimalen)
 
     double det() const;
     bool istRegulaer() const;

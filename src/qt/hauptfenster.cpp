@@ -6,6 +6,7 @@
 #include "qt/qtplattform.h"
 #include "qt/tableauwidget.h"
 #include "textmatrix/liste.h"
+#include "window/aktionen.h"
 #include "window/viewcontroller.h"
 
 #include <QCheckBox>
@@ -106,11 +107,19 @@ QPushButton* Hauptfenster::knopf(const QString& titel, const char* name, const Q
     return k;
 }
 
-QLineEdit* Hauptfenster::feld(const char* name, std::string ViewController::*wert) {
+// A line edit for the model's text field of this name: the user types only into those the model
+// says can be typed into, and ausModell() shows every one of them.
+QLineEdit* Hauptfenster::feld(const char* name) {
     auto* f = new QLineEdit;
     f->setObjectName(QString::fromLatin1(name));
-    connect(f, &QLineEdit::textEdited, this,
-            [this, wert](const QString& text) { vc.*wert = text.toStdString(); });
+    const Textfeld* modellFeld = textfeld(name);
+    f->setReadOnly(modellFeld == nullptr || !modellFeld->tippbar);
+    if (modellFeld != nullptr) {
+        const auto wert = modellFeld->wert;
+        connect(f, &QLineEdit::textEdited, this,
+                [this, wert](const QString& text) { vc.*wert = text.toStdString(); });
+        zeilen.push_back({f, wert});
+    }
     return f;
 }
 
@@ -118,7 +127,7 @@ QWidget* Hauptfenster::baueNamenszeile() {
     auto* zeile = new QWidget;
     auto* reihe = new QHBoxLayout(zeile);
     reihe->setContentsMargins(0, 0, 0, 0);
-    eingabeFb = feld("eingabeFb", &ViewController::eingabeFb);
+    eingabeFb = feld("eingabeFb");
     eingabeFb->setToolTip(QStringLiteral("Name der Matrix, ein Buchstabe A ... Z; "
                                          "die Eingabetaste trägt die Tableau-Matrix ein"));
     eingabeFb->setAutoFillBackground(true);
@@ -139,8 +148,7 @@ QWidget* Hauptfenster::baueNamenszeile() {
                            QStringLiteral("Matrix <Name> aus der Liste löschen")));
     reihe->addSpacing(12);
 
-    mListeF = feld("mListeF", &ViewController::mListeF);
-    mListeF->setReadOnly(true);
+    mListeF = feld("mListeF");
     mListeF->setToolTip(QStringLiteral("Namen aller Matrizen der Liste"));
     mListeF->setMinimumWidth(mListeF->fontMetrics().horizontalAdvance(QLatin1Char('M')) * 8);
     reihe->addWidget(beschriftung(QStringLiteral("L&iste"), mListeF));
@@ -191,7 +199,7 @@ QWidget* Hauptfenster::baueTermzeile() {
     auto* zeile = new QWidget;
     auto* reihe = new QHBoxLayout(zeile);
     reihe->setContentsMargins(0, 0, 0, 0);
-    eingabeF = feld("eingabeF", &ViewController::eingabeF);
+    eingabeF = feld("eingabeF");
     eingabeF->setToolTip(QStringLiteral("Matrixterm, zum Beispiel (A - B)^3 * B; "
                                         "die Eingabetaste wertet ihn aus"));
     connect(eingabeF, &QLineEdit::returnPressed, this, [this] { menueAktion("termAuswerten"); });
@@ -205,13 +213,13 @@ QWidget* Hauptfenster::baueTermzeile() {
     connect(auswerten, &QPushButton::clicked, this, [this] { menueAktion("termAuswerten"); });
     reihe->addWidget(auswerten);
 
-    skalarF = feld("skalarF", &ViewController::skalarF);
+    skalarF = feld("skalarF");
     skalarF->setToolTip(QStringLiteral("Skalar r des Terms"));
     zeichenBreit(skalarF, 6);
     reihe->addWidget(beschriftung(QStringLiteral("r ="), skalarF));
     reihe->addWidget(skalarF);
 
-    zaehlF = feld("zaehlF", &ViewController::zaehlF);
+    zaehlF = feld("zaehlF");
     zaehlF->setToolTip(QStringLiteral("Anzahl der Durchläufe der n-maligen Auswertung; "
                                       "die Eingabetaste startet sie"));
     zeichenBreit(zaehlF, 4);
@@ -232,10 +240,10 @@ QWidget* Hauptfenster::baueWerkzeugzeile() {
     auto* zeile = new QWidget;
     auto* reihe = new QHBoxLayout(zeile);
     reihe->setContentsMargins(0, 0, 0, 0);
-    zeileF = feld("zeileF", &ViewController::zeileF);
+    zeileF = feld("zeileF");
     zeileF->setToolTip(QStringLiteral("Zeilenzahl z oder Zeilennummer"));
     zeichenBreit(zeileF, 3);
-    spalteF = feld("spalteF", &ViewController::spalteF);
+    spalteF = feld("spalteF");
     spalteF->setToolTip(QStringLiteral("Spaltenzahl s oder Spaltennummer"));
     zeichenBreit(spalteF, 3);
 
@@ -288,7 +296,7 @@ QWidget* Hauptfenster::baueSeitenzeile() {
     reihe->addSpacing(6);
     reihe->addWidget(knopf(QStringLiteral("Seite"), "neueSeite",
                            QStringLiteral("Die Seite mit der eingetragenen Nummer zeigen")));
-    seitenF = feld("seitenF", &ViewController::seitenF);
+    seitenF = feld("seitenF");
     seitenF->setAlignment(Qt::AlignCenter);
     seitenF->setToolTip(QStringLiteral("Nummer der gezeigten Protokollseite; "
                                        "die Eingabetaste zeigt die eingetragene Seite"));
@@ -297,8 +305,7 @@ QWidget* Hauptfenster::baueSeitenzeile() {
     reihe->addWidget(seitenF);
     reihe->addSpacing(12);
 
-    notizF = feld("notizF", &ViewController::notizF);
-    notizF->setReadOnly(true);
+    notizF = feld("notizF");
     notizF->setFocusPolicy(Qt::NoFocus);
     reihe->addWidget(notizF, 1);
     return zeile;
@@ -338,8 +345,7 @@ QWidget* Hauptfenster::baueFusszeile() {
         vc.dezimalRegler = wert;
         fensterAktion("dezimalSlider");
     });
-    dezimalenF = feld("dezimalenF", &ViewController::dezimalenF);
-    dezimalenF->setReadOnly(true);
+    dezimalenF = feld("dezimalenF");
     dezimalenF->setFocusPolicy(Qt::NoFocus);
     zeichenBreit(dezimalenF, 3);
     reihe->addWidget(beschriftung(QStringLiteral("Nach&kommastellen"), dezimalSlider));
@@ -376,19 +382,12 @@ void Hauptfenster::menueAktion(std::string_view name) {
 
 void Hauptfenster::ausModell() {
     tableau->zeigeModell();
-    setzeText(eingabeFb, vc.eingabeFb);
+    for (const auto& [zeile, wert] : zeilen) {
+        setzeText(zeile, vc.*wert);
+    }
     setzeHintergrund(eingabeFb, vc.eingabeFbGruen ? gruen : QColor(Qt::white));
-    setzeText(eingabeF, vc.eingabeF);
-    setzeText(notizF, vc.notizF);
     // A long note may not fit the line; hovering shows it whole.
     notizF->setToolTip(QString::fromStdString(vc.notizF));
-    setzeText(zeileF, vc.zeileF);
-    setzeText(spalteF, vc.spalteF);
-    setzeText(skalarF, vc.skalarF);
-    setzeText(zaehlF, vc.zaehlF);
-    setzeText(mListeF, vc.mListeF);
-    setzeText(seitenF, vc.seitenF);
-    setzeText(dezimalenF, vc.dezimalenF);
 
     const QString ausgabe = QString::fromStdString(vc.ausgabeF);
     if (ausgabeF->toPlainText() != ausgabe) {

@@ -2,9 +2,10 @@
 // Hauptfenster, the main window on the desktop. It only shows the model's values and passes the
 // user's edits and actions on: every edit of a field writes its text into the ViewController at
 // once, every button fires the window action of its name, every menu entry the AppDelegate's menu
-// action of its name, and after each action ausModell() copies all of the model's values back
-// onto the screen. Each widget's objectName is the model's name for it, each menu entry's
-// objectName its action's name.
+// action of its name (or, for a button that is in the menu too, the window action), and after
+// each action ausModell() copies all of the model's values back onto the screen. Each widget's
+// objectName is the model's name for it (window/aktionen.h), each menu entry's objectName its
+// action's name.
 
 #include "qt/hilfefenster.h"
 
@@ -13,6 +14,8 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 class QCheckBox;
 class QLabel;
@@ -63,7 +66,7 @@ private:
     void dokumentenOrdnerZeigen();
 
     QPushButton* knopf(const QString& titel, const char* name, const QString& hinweis);
-    QLineEdit* feld(const char* name, std::string ViewController::*wert);
+    QLineEdit* feld(const char* name);
     void blinken();
 
     ViewController& vc;
@@ -88,6 +91,8 @@ private:
     QPushButton* infoUndHilfeB = nullptr;
     QPointer<Hilfefenster> hilfe;
     QMenu* dateiMenue = nullptr;
+    // Every line edit made by feld(), with the model's text it shows.
+    std::vector<std::pair<QLineEdit*, std::string ViewController::*>> zeilen;
     bool blinktGerade = false;
 };
 

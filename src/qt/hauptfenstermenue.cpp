@@ -1,4 +1,4 @@
-// The application menu: one entry for each of the delegate's menu actions, grouped by what
+// The application menu: one entry for each of the model's menu actions, grouped by what
 // they work on, the window buttons that a keyboard user wants under a key as well, and the
 // window's own entries (copy and paste of blocks, help, shortcuts, quit). Every menu and entry
 // has an access letter, unique within its menu, so that Alt and the letter reach every command.
@@ -9,6 +9,7 @@
 #include "qt/qtplattform.h"
 #include "qt/tableauwidget.h"
 #include "qt/tastenkuerzel.h"
+#include "window/aktionen.h"
 
 #include <QAction>
 #include <QApplication>
@@ -21,38 +22,36 @@ namespace tabulon {
 
 namespace {
 
-enum class Art { menue, fenster };
-
 struct Menueeintrag {
     std::string_view aktion;
     const char* titel;   // '&' marks the access letter
     const char* kuerzel; // empty: no shortcut
     int menue;           // index into the menu titles below
-    Art art = Art::menue;
     bool trennlinieDanach = false;
 };
 
 const char* const menueTitel[] = {"&Datei", "&Liste", "&Rechnen", "&Tableau", "&Exakt"};
 constexpr int anzahlMenues = 5;
 
-// Shortcuts avoid the keys a line edit keeps for itself (Ctrl+A, C, D, E, K, V, X, Y, Z, the
-// arrows with Ctrl or Shift, ...), so they also work while the cursor is in a cell. Window
-// actions reach the controller directly, as their buttons do.
+// The titles of the model's menu actions and of the window buttons that a keyboard user wants
+// under a key as well; which of the two an entry fires, the model's tables say. Shortcuts avoid
+// the keys a line edit keeps for itself (Ctrl+A, C, D, E, K, V, X, Y, Z, the arrows with Ctrl or
+// Shift, ...), so they also work while the cursor is in a cell. Window actions reach the
+// controller directly, as their buttons do.
 const Menueeintrag eintraege[] = {
     {"ladenM", "&Laden", "Ctrl+L", 0},
     {"speichernM", "&Speichern", "Ctrl+S", 0},
     {"protoSpeichern", "Speichere &Protokoll", "Ctrl+P", 0},
     {"speichereEinzelmatrix", "Erzeuge &TEX-Format(>Name<)", "Ctrl+Shift+X", 0},
-    {"texAusgabeAlleMatrizen", "Erzeuge TEX-Format &aler Matrizen", "Ctrl+Alt+X", 0, Art::menue,
-     true},
-    {"protoDown", "&Vorige Protokollseite", "Ctrl+PgUp", 0, Art::fenster},
-    {"protoUp", "Nä&chste Protokollseite", "Ctrl+PgDown", 0, Art::fenster},
-    {"protoDelSeite", "Protokollseite lösch&en", "", 0, Art::fenster, true},
-    {"neustartM", "&Neustart", "Ctrl+N", 0, Art::menue, true},
+    {"texAusgabeAlleMatrizen", "Erzeuge TEX-Format &aler Matrizen", "Ctrl+Alt+X", 0, true},
+    {"protoDown", "&Vorige Protokollseite", "Ctrl+PgUp", 0},
+    {"protoUp", "Nä&chste Protokollseite", "Ctrl+PgDown", 0},
+    {"protoDelSeite", "Protokollseite lösch&en", "", 0, true},
+    {"neustartM", "&Neustart", "Ctrl+N", 0, true},
 
-    {"einlistB", "Tableau-Matrix unter <Name> &eintragen", "Alt+Left", 1, Art::fenster},
-    {"name2SMatrixB", "Matrix <Name> ins &Tableau holen", "Alt+Right", 1, Art::fenster},
-    {"freierMatrixNameB", "Matrixnamen zu&weisen", "", 1, Art::fenster, true},
+    {"einlistB", "Tableau-Matrix unter <Name> &eintragen", "Alt+Left", 1},
+    {"name2SMatrixB", "Matrix <Name> ins &Tableau holen", "Alt+Right", 1},
+    {"freierMatrixNameB", "Matrixnamen zu&weisen", "", 1, true},
     {"zeigeGanzeListe", "&Zeige Liste", "Ctrl+Shift+L", 1},
     {"druckeMatrixN", "Zeige &Matrix<Name>", "Ctrl+M", 1},
     {"loescheName", "&Lösche <Name>", "Ctrl+Shift+D", 1},
@@ -60,7 +59,7 @@ const Menueeintrag eintraege[] = {
     {"MatrixlisteLoeschen", "Matrixliste lee&ren", "", 1},
 
     {"termAuswerten", "&Term-Auswertung", "Ctrl+Return", 2},
-    {"nMalAuswerten", "&n-malige Term-Auswertung", "Ctrl+Shift+Return", 2, Art::menue, true},
+    {"nMalAuswerten", "&n-malige Term-Auswertung", "Ctrl+Shift+Return", 2, true},
     {"Transponiere", "T&ransponiere ..", "Ctrl+T", 2},
     {"Invertiere", "&Invertiere ..", "Ctrl+I", 2},
     {"Gausse", "&Gauss-Verfahren ..", "Ctrl+G", 2},
@@ -71,15 +70,15 @@ const Menueeintrag eintraege[] = {
 
     {"genZufallsmatrix", "&Zufalls (z,s)-Matrix", "Ctrl+R", 3},
     {"genEinheitsmatrix", "&E(z)", "Ctrl+Shift+E", 3},
-    {"TableauLöschen", "Tableau &löschen", "Ctrl+Shift+Backspace", 3, Art::menue, true},
-    {"rundenB", "&Runden", "", 3, Art::fenster},
-    {"tableauRaendern", "Rän&dern", "", 3, Art::fenster},
-    {"einfuegen", "E&infügen (Zeile z, Spalte s)", "", 3, Art::fenster},
-    {"entfernen", "E&ntfernen (Zeile z, Spalte s)", "", 3, Art::fenster, true},
-    {"rplusB", "Zeile &anhängen (v)", "Alt+Shift+Down", 3, Art::fenster},
-    {"rminusB", "Le&tzte Zeile entfernen (^)", "Alt+Shift+Up", 3, Art::fenster},
-    {"cplusB", "&Spalte anhängen (>)", "Alt+Shift+Right", 3, Art::fenster},
-    {"cminusB", "Letzte S&palte entfernen (<)", "Alt+Shift+Left", 3, Art::fenster, true},
+    {"TableauLöschen", "Tableau &löschen", "Ctrl+Shift+Backspace", 3, true},
+    {"rundenB", "&Runden", "", 3},
+    {"tableauRaendern", "Rän&dern", "", 3},
+    {"einfuegen", "E&infügen (Zeile z, Spalte s)", "", 3},
+    {"entfernen", "E&ntfernen (Zeile z, Spalte s)", "", 3, true},
+    {"rplusB", "Zeile &anhängen (v)", "Alt+Shift+Down", 3},
+    {"rminusB", "Le&tzte Zeile entfernen (^)", "Alt+Shift+Up", 3},
+    {"cplusB", "&Spalte anhängen (>)", "Alt+Shift+Right", 3},
+    {"cminusB", "Letzte S&palte entfernen (<)", "Alt+Shift+Left", 3, true},
 
     // The exact commands are reached by their access letters (Alt+E, then the letter): the
     // Ctrl+Alt keys that are still free lock the screen or open a terminal on common desktops.
@@ -88,8 +87,8 @@ const Menueeintrag eintraege[] = {
     {"exaktKern", "&Kern und Bild ..", "", 4},
     {"exaktInverse", "&Inverse ..", "", 4},
     {"exaktDeterminante", "&Determinante ..", "", 4},
-    {"exaktEigen", "&Eigenwerte und Eigenvektoren ..", "", 4, Art::menue, true},
-    {"exaktUeben", "&Zeilenumformungen üben …", "", 4, Art::menue, true},
+    {"exaktEigen", "&Eigenwerte und Eigenvektoren ..", "", 4, true},
+    {"exaktUeben", "&Zeilenumformungen üben …", "", 4, true},
     {"exaktTexAusgabe", "Letzte exakte Seite als &TeX(>Name<)", "", 4},
 };
 
@@ -105,14 +104,15 @@ void Hauptfenster::baueMenue() {
         auto* aktion = menue->addAction(QString::fromUtf8(eintrag.titel));
         const QString name =
             QString::fromUtf8(eintrag.aktion.data(), qsizetype(eintrag.aktion.size()));
+        const bool istMenueaktion = menueaktion(eintrag.aktion) != nullptr;
         // Menu entries carry their action's name; an entry for a window button adds an M, so
         // that a search by name never confuses it with the button.
-        aktion->setObjectName(eintrag.art == Art::menue ? name : name + QLatin1Char('M'));
+        aktion->setObjectName(istMenueaktion ? name : name + QLatin1Char('M'));
         if (*eintrag.kuerzel) {
             aktion->setShortcut(QKeySequence(QString::fromLatin1(eintrag.kuerzel)));
         }
         const std::string_view aktionsName = eintrag.aktion;
-        if (eintrag.art == Art::menue) {
+        if (istMenueaktion) {
             connect(aktion, &QAction::triggered, this,
                     [this, aktionsName] { menueAktion(aktionsName); });
         } else {

@@ -4,57 +4,14 @@
 #include "skript/zitat.h"
 #include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
+#include "window/aktionen.h"
 #include "window/tableau.h"
 
-#include <algorithm>
-#include <iterator>
 #include <string_view>
 
 namespace tabulon::skript {
 
 namespace {
-
-using Textfeld = std::string ViewController::*;
-
-struct Feld {
-    std::string_view name;
-    Textfeld wert;
-    bool tippbar; // `feld` may type into it; the others are the window's answers
-};
-
-// Every text field a script may name.
-constexpr Feld felder[] = {
-    {"eingabeFb", &ViewController::eingabeFb, true},
-    {"eingabeF", &ViewController::eingabeF, true},
-    {"ausgabeF", &ViewController::ausgabeF, false},
-    {"notizF", &ViewController::notizF, false},
-    {"zeileF", &ViewController::zeileF, true},
-    {"spalteF", &ViewController::spalteF, true},
-    {"skalarF", &ViewController::skalarF, true},
-    {"zaehlF", &ViewController::zaehlF, true},
-    {"mListeF", &ViewController::mListeF, false},
-    {"seitenF", &ViewController::seitenF, true},
-    {"dezimalenF", &ViewController::dezimalenF, false},
-    {"ueberschreibLabel", &ViewController::ueberschreibLabel, false},
-};
-
-const Feld* textfeld(std::string_view name) {
-    for (const Feld& f : felder) {
-        if (f.name == name) {
-            return &f;
-        }
-    }
-    return nullptr;
-}
-
-// The window's buttons; its other actions (slider, checkbox) have their own script commands.
-constexpr std::string_view knoepfe[] = {"einlistB",        "auslistB",  "freierMatrixNameB",
-                                        "name2SMatrixB",   "rundenB",   "genZufallsMatrixB",
-                                        "tableauRaendern", "einfuegen", "entfernen",
-                                        "tableauLoeschB",  "rplusB",    "rminusB",
-                                        "cplusB",          "cminusB",   "quitB",
-                                        "protoUp",         "protoDown", "protoDelSeite",
-                                        "neueSeite"};
 
 // One entry of the in/out matrix; a matrix that lost its 8 x 8 shape shows "" where it has none.
 std::string eintrag(const SMatrix& m, int i, int j) {
@@ -81,7 +38,7 @@ Treiber::Treiber(SkriptPlattform& plattform) : plattform(plattform), vc(plattfor
 }
 
 bool Treiber::zeige(const std::string& was) {
-    if (const Feld* feld = textfeld(was)) {
+    if (const Textfeld* feld = textfeld(was)) {
         plattform.zeile(was + " " + zitiert(vc.*(feld->wert)));
         return true;
     }
@@ -140,7 +97,7 @@ std::string Treiber::ausfuehren(const Befehl& befehl) {
     }
     switch (befehl.art) {
     case Befehlsart::feld: {
-        const Feld* feld = textfeld(befehl.name);
+        const Textfeld* feld = textfeld(befehl.name);
         if (feld == nullptr || !feld->tippbar) {
             return "unbekanntes Eingabefeld " + zitiert(befehl.name);
         }
@@ -162,12 +119,16 @@ std::string Treiber::ausfuehren(const Befehl& befehl) {
     case Befehlsart::antwort:
         plattform.antwortVormerken(befehl.text);
         break;
-    case Befehlsart::knopf:
-        if (std::find(std::begin(knoepfe), std::end(knoepfe), befehl.name) == std::end(knoepfe) ||
-            !vc.fensterAktion(befehl.name)) {
+    case Befehlsart::knopf: {
+        // Slider and checkbox are window actions too, but set their value first, through their
+        // own commands.
+        const Fensteraktion* aktion = fensteraktion(befehl.name);
+        if (aktion == nullptr || !aktion->knopf) {
             return "unbekannter Knopf " + zitiert(befehl.name);
         }
+        (vc.*(aktion->aktion))();
         break;
+    }
     case Befehlsart::menue:
         if (!delegate.menueAktion(befehl.name)) {
             return "unbekannte Menüaktion " + zitiert(befehl.name);

@@ -7,19 +7,12 @@
 #include "textmatrix/zahltext.h"
 #include "uebung/uebungscontroller.h"
 
-#include <algorithm>
-
 namespace tabulon::skript {
 
 namespace {
 
 std::string zahl(std::size_t n) {
     return ganzText(static_cast<std::int64_t>(n));
-}
-
-bool istUebungsknopf(const std::string& name) {
-    const auto& namen = UebungsController::knopfNamen();
-    return std::find(namen.begin(), namen.end(), name) != namen.end();
 }
 
 } // namespace
@@ -29,14 +22,14 @@ std::optional<std::string> Treiber::uebungsBefehl(const Befehl& befehl) {
     bool gehoertDazu = false;
     switch (befehl.art) {
     case Befehlsart::feld:
-        gehoertDazu = name == "umformungF" || name == "vergleichF";
+        gehoertDazu = UebungsController::feld(name) != nullptr;
         break;
     case Befehlsart::knopf:
-        gehoertDazu = istUebungsknopf(name);
+        gehoertDazu = UebungsController::knopf(name) != nullptr;
         break;
     case Befehlsart::zeige:
-        gehoertDazu = name == "uebung" || name == "umformungF" || name == "vergleichF" ||
-                      name == "uebungsnotiz";
+        gehoertDazu =
+            name == "uebung" || name == "uebungsnotiz" || UebungsController::feld(name) != nullptr;
         break;
     default:
         break;
@@ -49,7 +42,7 @@ std::optional<std::string> Treiber::uebungsBefehl(const Befehl& befehl) {
     }
     UebungsController& u = *vc.uebung;
     if (befehl.art == Befehlsart::feld) {
-        (name == "umformungF" ? u.umformungF : u.vergleichF) = befehl.text;
+        u.*(UebungsController::feld(name)->wert) = befehl.text;
     } else if (befehl.art == Befehlsart::knopf) {
         u.fensterAktion(name);
     } else if (name == "uebung") {
@@ -63,7 +56,7 @@ std::optional<std::string> Treiber::uebungsBefehl(const Befehl& befehl) {
     } else if (name == "uebungsnotiz") {
         plattform.zeile("uebungsnotiz " + zitiert(u.notizF));
     } else {
-        plattform.zeile(name + " " + zitiert(name == "umformungF" ? u.umformungF : u.vergleichF));
+        plattform.zeile(name + " " + zitiert(u.*(UebungsController::feld(name)->wert)));
     }
     return std::string();
 }

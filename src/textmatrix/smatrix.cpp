@@ -170,8 +170,7 @@ SMatrix SMatrix::getrimmt() const {
     return block;
 }
 
-SMatrix SMatrix::gerundet() const {
-    const int dezimalen = listenZustand().dezimalen;
+SMatrix SMatrix::gerundet(int dezimalen) const {
     SMatrix ergebnis = *this;
     for (std::string& eintrag : ergebnis.grid) {
         if (const std::optional<double> zahl = text2Zahl(eintrag)) {

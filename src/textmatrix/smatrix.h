@@ -37,7 +37,7 @@ struct SMatrix {
     std::pair<SMatrix, bool> spalteLoeschen(std::int64_t c) const;
     std::pair<SMatrix, bool> zeileLoeschen(std::int64_t r) const;
     SMatrix getrimmt() const;
-    SMatrix gerundet() const; // numeric entries as round(x, dezimalen)
+    SMatrix gerundet(int dezimalen) const; // numeric entries as round(x, dezimalen)
 
     std::string string() const; // each entry followed by five blanks, each row by lf
 

@@ -1,7 +1,5 @@
 #include "textmatrix/zahltext.h"
 
-#include "textmatrix/liste.h"
-
 #include <algorithm>
 #include <bit>
 #include <cerrno>
@@ -217,7 +215,7 @@ std::string festkomma(double x, int amount) {
 }
 
 std::string round(double x, int amount) {
-    const double schwelle = std::pow(10.0, -(listenZustand().dezimalen + 1));
+    const double schwelle = std::pow(10.0, -(amount + 1));
     // Setting tiny values to +0 keeps "-0.000000" away from values that are noise.
     if (std::fabs(x) < schwelle) {
         x = 0.0;

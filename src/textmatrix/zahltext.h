@@ -33,8 +33,9 @@ std::string ganzText(std::int64_t n);
 // printf("%.<amount>f") in the C locale, without the threshold of round(amount:).
 std::string festkomma(double x, int amount);
 
-// round(amount:): values below 10^-(dezimalen+1) in magnitude become 0 first (dezimalen of the
-// list state), then the value is written with `amount` digits after the point.
+// round(amount:): values below 10^-(amount+1) in magnitude become 0 first, then the value is
+// written with `amount` digits after the point. The commands pass the decimals setting as
+// `amount`.
 std::string round(double x, int amount);
 
 // Seven decimals, half away from zero; magnitudes below 1e-07 become exactly 0.

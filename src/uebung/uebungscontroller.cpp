@@ -37,30 +37,59 @@ UebungsController::UebungsController(Plattform& plattform, Uebung uebung, InsTab
              "): bitte eine Zeilenumformung eingeben, zum Beispiel „Z2 - 3 Z1“.";
 }
 
-const std::array<std::string_view, 7>& UebungsController::knopfNamen() {
-    static const std::array<std::string_view, 7> namen{
-        "umformenB", "rueckgaengigB", "tippB", "pruefenB", "vergleichenB", "insTableauB", "texB"};
-    return namen;
+namespace {
+
+using UC = UebungsController;
+
+constexpr UC::Knopf knopfTabelle[] = {
+    {"umformenB", &UC::umformenB},
+    {"rueckgaengigB", &UC::rueckgaengigB},
+    {"tippB", &UC::tippB},
+    {"pruefenB", &UC::pruefenB},
+    {"vergleichenB", &UC::vergleichenB},
+    {"insTableauB", &UC::insTableauB},
+    {"texB", &UC::texB},
+};
+
+constexpr UC::Feld feldTabelle[] = {
+    {"umformungF", &UC::umformungF},
+    {"vergleichF", &UC::vergleichF},
+};
+
+template <typename T> const T* finde(std::span<const T> tabelle, std::string_view name) {
+    for (const T& eintrag : tabelle) {
+        if (eintrag.name == name) {
+            return &eintrag;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+std::span<const UC::Knopf> UebungsController::knoepfe() {
+    return knopfTabelle;
+}
+
+std::span<const UC::Feld> UebungsController::felder() {
+    return feldTabelle;
+}
+
+const UC::Knopf* UebungsController::knopf(std::string_view name) {
+    return finde(knoepfe(), name);
+}
+
+const UC::Feld* UebungsController::feld(std::string_view name) {
+    return finde(felder(), name);
 }
 
 bool UebungsController::fensterAktion(std::string_view name) {
-    using Knopf = void (UebungsController::*)();
-    static const std::pair<std::string_view, Knopf> knoepfe[] = {
-        {"umformenB", &UebungsController::umformenB},
-        {"rueckgaengigB", &UebungsController::rueckgaengigB},
-        {"tippB", &UebungsController::tippB},
-        {"pruefenB", &UebungsController::pruefenB},
-        {"vergleichenB", &UebungsController::vergleichenB},
-        {"insTableauB", &UebungsController::insTableauB},
-        {"texB", &UebungsController::texB},
-    };
-    for (const auto& [n, knopf] : knoepfe) {
-        if (n == name) {
-            (this->*knopf)();
-            return true;
-        }
+    const Knopf* gefunden = knopf(name);
+    if (gefunden == nullptr) {
+        return false;
     }
-    return false;
+    (this->*(gefunden->aktion))();
+    return true;
 }
 
 void UebungsController::abgelehnt(std::string meldung) {

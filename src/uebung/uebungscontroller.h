@@ -5,8 +5,8 @@
 // script driver does the same. The main window opens it (ViewController::exaktUeben) and hands
 // in how a matrix reaches its tableau, so that this model needs nothing of the window.
 
-#include <array>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,8 +30,22 @@ public:
     std::string notizF;     // the message line
     Uebung uebung;
 
+    // The names of this window, one table per kind, used by the driver, the desktop window and
+    // the tests. Both fields take typing.
+    struct Knopf {
+        std::string_view name;
+        void (UebungsController::*aktion)();
+    };
+    struct Feld {
+        std::string_view name;
+        std::string UebungsController::*wert;
+    };
     // The buttons, in the order the window shows them.
-    static const std::array<std::string_view, 7>& knopfNamen();
+    static std::span<const Knopf> knoepfe();
+    static std::span<const Feld> felder();
+    static const Knopf* knopf(std::string_view name); // nullptr when there is none
+    static const Feld* feld(std::string_view name);
+
     // Fires the button of this name; false when there is none.
     bool fensterAktion(std::string_view name);
 

@@ -59,12 +59,12 @@ void ViewController::laden() {
 }
 
 std::string ViewController::listeAllerMatrizen() const {
-    return texAlle();
+    return texAlle(listenZustand().dezimalen);
 }
 
 void ViewController::texAusgabeEinzel() {
     const std::string name = liesName();
-    const std::string text = tex(name);
+    const std::string text = tex(name, listenZustand().dezimalen);
     bool ok = false;
     if (!text.empty()) {
         ok = schreiben(plattform.dokumentenOrdner(), name, text).first;

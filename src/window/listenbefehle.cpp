@@ -129,7 +129,7 @@ void ViewController::druckeMatrix() {
     }
     const int dezimalen = listenZustand().dezimalen;
     const std::string endung = dezimalen > 1 ? "n" : "";
-    const SMatrix g = gefunden->second.gerundet();
+    const SMatrix g = gefunden->second.gerundet(dezimalen);
     ausgabe(name + "\n" + g.string());
     notiz("Ausgabe der Matrix " + name + ", Komponenten gerundet auf " + ganzText(dezimalen) +
           " Nachkommastelle" + endung);

@@ -107,7 +107,7 @@ void ViewController::genErzSystemVomKern() {
     }
     schreibInsTableau(k);
     notiz("Das ES des Kerns wurde ins Feld der Eingabematrix geschrieben.");
-    ausgabe(text + k.string());
+    ausgabe(text + k.string(listenZustand().dezimalen));
 }
 
 void ViewController::orthonormiere() {
@@ -162,7 +162,7 @@ void ViewController::rundenB() {
         plattform.piep();
         return;
     }
-    schreibInsTableau(t.gerundet());
+    schreibInsTableau(t.gerundet(dezimalen));
     spalteF.clear();
     notiz("Die Komponenten der Eingabematrix wurden auf " + ganzText(dezimalen) +
           " Nachkommastelle" + endung + " gerundet.");

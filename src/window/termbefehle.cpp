@@ -61,7 +61,8 @@ void ViewController::parsStart() {
         const Matrix m = matrix(listenZustand().sMatrixListe.at(ergebnis.first));
         schreibInsTableau(m);
         notiz("Das Ergebnis der Rechnung wird im Eingabe-Tableau angezeigt");
-        ausgabe("Die Auswertung des Terms " + term + " ergibt: \n\n" + m.string());
+        ausgabe("Die Auswertung des Terms " + term + " ergibt: \n\n" +
+                m.string(listenZustand().dezimalen));
     }
     tempNamenEntfernen();
 }
@@ -123,7 +124,7 @@ void ViewController::parsNfachStart() {
     notiz((abbruch.empty() ? "" : abbruch + " ") + "Das Ergebnis der Berechnung von " + name +
           " wird im Eingabe-Tableau angezeigt");
     ausgabe("Die " + ganzText(laeufe) + "-malige Auswertung des Terms " + term +
-            " ergibt: " + name + " = \n\n" + m.string());
+            " ergibt: " + name + " = \n\n" + m.string(listenZustand().dezimalen));
 }
 
 } // namespace tabulon

@@ -6,11 +6,11 @@
 #include "terms/zeichen.h"
 #include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
+#include "window/aktionen.h"
 #include "window/tableau.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <map>
 
 namespace tabulon {
 
@@ -23,35 +23,11 @@ void ViewController::viewDidLoad(const std::function<void(ViewController&)>& bei
 }
 
 bool ViewController::fensterAktion(std::string_view name) {
-    using Aktion = void (ViewController::*)();
-    static const std::map<std::string_view, Aktion> aktionen = {
-        {"einlistB", &ViewController::einlistB},
-        {"auslistB", &ViewController::auslistB},
-        {"freierMatrixNameB", &ViewController::freierMatrixNameB},
-        {"name2SMatrixB", &ViewController::name2SMatrixB},
-        {"rundenB", &ViewController::rundenB},
-        {"genZufallsMatrixB", &ViewController::genZufallsMatrixB},
-        {"tableauRaendern", &ViewController::tableauRaendern},
-        {"einfuegen", &ViewController::einfuegen},
-        {"entfernen", &ViewController::entfernen},
-        {"tableauLoeschB", &ViewController::tableauLoeschB},
-        {"rplusB", &ViewController::rplusB},
-        {"rminusB", &ViewController::rminusB},
-        {"cplusB", &ViewController::cplusB},
-        {"cminusB", &ViewController::cminusB},
-        {"quitB", &ViewController::quitB},
-        {"protoUp", &ViewController::protoUp},
-        {"protoDown", &ViewController::protoDown},
-        {"protoDelSeite", &ViewController::protoDelSeite},
-        {"neueSeite", &ViewController::neueSeite},
-        {"dezimalSlider", &ViewController::dezimalSlider},
-        {"ueberschreibChecker", &ViewController::ueberschreibChecker},
-    };
-    const auto gefunden = aktionen.find(name);
-    if (gefunden == aktionen.end()) {
+    const Fensteraktion* gefunden = fensteraktion(name);
+    if (gefunden == nullptr) {
         return false;
     }
-    (this->*(gefunden->second))();
+    (this->*(gefunden->aktion))();
     return true;
 }
 

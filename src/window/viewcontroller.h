@@ -68,7 +68,8 @@ public:
     // the application delegate through the callback.
     void viewDidLoad(const std::function<void(ViewController&)>& beimDelegateAnmelden);
 
-    // Fires the window action of this name (einlistB, rundenB, protoUp, ...); false when unknown.
+    // Fires the window action of this name (einlistB, rundenB, protoUp, ...) from the table in
+    // window/aktionen.h; false when unknown.
     bool fensterAktion(std::string_view name);
 
     // Primitives.

@@ -230,17 +230,17 @@ TEST_F(DateiTest, LesenVerweigertFehlendeOrdnerUndRohre) {
 TEST_F(DateiTest, TexUndProtokollDateien) {
     listenZustand().dezimalen = 2;
     beispielListe();
-    EXPECT_EQ(tex("A"), "\\begin {displaymath}\n"
-                        "A = \\left(\\begin {array} {cc}\n"
-                        "1.00  & 2.00\\\\\n"
-                        "3.00  & 4.00\\\\\n"
-                        "\\end {array} \\right) \n"
-                        "\\end {displaymath}\n");
+    EXPECT_EQ(tex("A", 2), "\\begin {displaymath}\n"
+                           "A = \\left(\\begin {array} {cc}\n"
+                           "1.00  & 2.00\\\\\n"
+                           "3.00  & 4.00\\\\\n"
+                           "\\end {array} \\right) \n"
+                           "\\end {displaymath}\n");
     vc.eingabeFb = "a";
     vc.texAusgabeEinzel();
     vc.texAusgabeAlle();
-    EXPECT_EQ(inhalt("Matrix_A.txt"), tex("A"));
-    EXPECT_EQ(inhalt("Matrix_Alle.txt"), "A:\n" + tex("A") + "\n\nC:\n" + tex("C") + "\n\n");
+    EXPECT_EQ(inhalt("Matrix_A.txt"), tex("A", 2));
+    EXPECT_EQ(inhalt("Matrix_Alle.txt"), "A:\n" + tex("A", 2) + "\n\nC:\n" + tex("C", 2) + "\n\n");
     vc.ausgabe("eins");
     vc.protoSpeichern();
     EXPECT_EQ(inhalt("Matrix_proto.txt"), "\n\neins");

@@ -12,6 +12,7 @@
 #include "qt/tableauwidget.h"
 #include "terms/parser.h"
 #include "textmatrix/liste.h"
+#include "window/aktionen.h"
 #include "window/tableau.h"
 #include "window/viewcontroller.h"
 
@@ -20,6 +21,8 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -61,6 +64,37 @@ struct Aufbau {
 class FensterTest : public QObject {
     Q_OBJECT
 
+    static QString text(std::string_view name) {
+        return QString::fromUtf8(name.data(), qsizetype(name.size()));
+    }
+
+    // Every menu action of the model has its entry, and every entry of the menu bar is a menu
+    // action, a window action (its name with an M added) or one of the window's own.
+    static void menueUndModellPassenZusammen(const Aufbau& a) {
+        for (const Menueaktion& aktion : menueaktionen()) {
+            QVERIFY2(a.finde<QAction>(text(aktion.name)), aktion.name.data());
+        }
+        const QStringList eigene = {
+            QStringLiteral("programmBeenden"), QStringLiteral("blockKopieren"),
+            QStringLiteral("blockEinfuegen"), QStringLiteral("infoUndHilfe"),
+            QStringLiteral("tastenkuerzel")};
+        int eintraege = 0;
+        for (QAction* menue : a.fenster->menuBar()->actions()) {
+            for (QAction* eintrag : menue->menu()->actions()) {
+                const QString name = eintrag->objectName();
+                if (eintrag->isSeparator() || eigene.contains(name)) {
+                    continue;
+                }
+                ++eintraege;
+                const std::string n = name.toStdString();
+                const bool bekannt = menueaktion(n) != nullptr ||
+                                     (n.ends_with('M') && fensteraktion(n.substr(0, n.size() - 1)));
+                QVERIFY2(bekannt, qPrintable(name));
+            }
+        }
+        QVERIFY(eintraege >= int(menueaktionen().size()));
+    }
+
 private slots:
     // Every widget and menu entry carries the model's name, and one pass over the window reaches
     // the model by typing, a button, the box, the slider, a menu entry, the term field's Enter
@@ -70,17 +104,20 @@ private slots:
         for (int i = 0; i < 64; ++i) {
             QVERIFY(a.zelle(i / 8, i % 8) && a.zelle(i / 8, i % 8)->isVisible());
         }
-        const QString knoepfe = QStringLiteral(
-            "einlistB name2SMatrixB freierMatrixNameB auslistB rundenB genZufallsMatrixB "
-            "tableauRaendern einfuegen entfernen tableauLoeschB quitB rplusB rminusB cplusB "
-            "cminusB protoUp protoDown protoDelSeite neueSeite infoUndHilfeB genEinheitsmatrixB");
-        for (const QString& name : knoepfe.split(QLatin1Char(' '))) {
-            QVERIFY2(a.finde<QPushButton>(name), qPrintable(name));
+        for (const Fensteraktion& aktion : fensteraktionen()) {
+            QVERIFY2(!aktion.knopf || a.finde<QPushButton>(text(aktion.name)), aktion.name.data());
         }
-        for (std::string_view name : AppDelegate::menueNamen()) {
-            QVERIFY2(a.finde<QAction>(QString::fromUtf8(name.data(), qsizetype(name.size()))),
-                     name.data());
+        for (const char* name : {"infoUndHilfeB", "genEinheitsmatrixB"}) {
+            QVERIFY2(a.finde<QPushButton>(name), name);
         }
+        // Every field of the model is shown, and only those it calls typeable take typing.
+        for (const Textfeld& feld : textfelder()) {
+            QVERIFY2(a.finde<QWidget>(text(feld.name)), feld.name.data());
+            if (auto* zeile = a.finde<QLineEdit>(text(feld.name))) {
+                QVERIFY2(zeile->isReadOnly() == !feld.tippbar, feld.name.data());
+            }
+        }
+        menueUndModellPassenZusammen(a);
         auto* regler = a.finde<QSlider>("dezimalSlider");
         QCOMPARE(QList<int>({regler->minimum(), regler->maximum(), regler->value()}),
                  QList<int>({1, 10, 6}));

@@ -49,6 +49,17 @@ private slots:
         QVERIFY(fenster && fenster->isVisible());
         QApplication::setActiveWindow(fenster);
         QVERIFY(QTest::qWaitForWindowActive(fenster));
+        // Every button and field of the model is on the screen under its name.
+        for (const auto& knopf : UebungsController::knoepfe()) {
+            QVERIFY2(fenster->findChild<QPushButton*>(
+                         QString::fromUtf8(knopf.name.data(), qsizetype(knopf.name.size()))),
+                     knopf.name.data());
+        }
+        for (const auto& f : UebungsController::felder()) {
+            QVERIFY2(fenster->findChild<QLineEdit*>(
+                         QString::fromUtf8(f.name.data(), qsizetype(f.name.size()))),
+                     f.name.data());
+        }
         auto* feld = fenster->findChild<QLineEdit*>("umformungF");
         auto* aktuell = fenster->findChild<QLabel*>("aktuelleMatrix");
         auto* schritte = fenster->findChild<QListWidget*>("schritte");

@@ -8,6 +8,7 @@
 #include "skript/zufall.h"
 #include "terms/parser.h"
 #include "textmatrix/liste.h"
+#include "window/aktionen.h"
 #include "window/tableau.h"
 
 #include <gtest/gtest.h>
@@ -64,23 +65,24 @@ TEST(Treiber, StopsAtTheFirstUnknownNameAndNamesTheLine) {
 }
 
 // Every button and menu entry of the script language reaches the window; with no answers queued,
-// quitting and every other question end as "no".
+// quitting and every other question end as "no". Slider and checkbox are no buttons.
 TEST(Treiber, KnowsEveryButtonAndMenuAction) {
     std::string skript;
-    for (const char* knopf :
-         {"einlistB", "auslistB", "freierMatrixNameB", "name2SMatrixB", "rundenB",
-          "genZufallsMatrixB", "tableauRaendern", "einfuegen", "entfernen", "tableauLoeschB",
-          "rplusB", "rminusB", "cplusB", "cminusB", "quitB", "protoUp", "protoDown",
-          "protoDelSeite", "neueSeite"}) {
-        skript += std::string("knopf ") + knopf + "\n";
+    for (const Fensteraktion& aktion : fensteraktionen()) {
+        if (aktion.knopf) {
+            skript += "knopf " + std::string(aktion.name) + "\n";
+        }
     }
-    for (const auto name : AppDelegate::menueNamen()) {
-        skript += "menue " + std::string(name) + "\n";
+    for (const Menueaktion& aktion : menueaktionen()) {
+        skript += "menue " + std::string(aktion.name) + "\n";
     }
     const auto [status, aus, fehler] = lauf(skript);
     EXPECT_EQ(status, 0);
     EXPECT_EQ(fehler, "");
     EXPECT_EQ(("\n" + aus).find("\nende "), std::string::npos);
+    for (const char* keinKnopf : {"dezimalSlider", "ueberschreibChecker"}) {
+        EXPECT_EQ(std::get<0>(lauf(std::string("knopf ") + keinKnopf + "\n")), 2) << keinKnopf;
+    }
 }
 
 // A documents folder that is known but cannot be created (a file stands in its place) is a

@@ -214,14 +214,17 @@ TEST(ZahltextVergleich, ZahlenWieStrtod) {
     EXPECT_GT(v.anzahl, 400000u);
 }
 
-TEST(Zahltext, RoundSchwelleAusDezimalenStellenAusAmount) {
-    allesZuruecksetzen();
+// The threshold follows the digits asked for, whatever the list's setting: below 10^-(amount+1)
+// the value is 0, at and above it keeps its sign.
+TEST(Zahltext, RoundSchwelleUndStellenAusAmount) {
+    listenZustand().dezimalen = 2;
     EXPECT_EQ(round(-0.00000004, 6), "0.000000");
     EXPECT_EQ(round(-0.0000004, 6), "-0.000000");
-    EXPECT_EQ(round(-0.00000004, 10), "0.0000000000");
-    listenZustand().dezimalen = 2;
-    EXPECT_EQ(round(-0.0001, 6), "0.000000");
+    EXPECT_EQ(round(-0.000000000004, 10), "0.0000000000");
+    EXPECT_EQ(round(-0.00000000004, 10), "-0.0000000000");
+    EXPECT_EQ(round(-0.0001, 2), "0.00");
     EXPECT_EQ(round(-0.001, 2), "-0.00");
+    EXPECT_EQ(round(2.5e-7, 6), "0.000000");
     allesZuruecksetzen();
 
     EXPECT_EQ(xrunden(0.123456789), 0.1234568);

@@ -7,6 +7,7 @@
 #include "app/tabulonhilfen.h"
 #include "exakt/befehle.h"
 #include "exakt/hilfe.h"
+#include "window/aktionen.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -160,7 +161,10 @@ TEST_F(ExaktTexTest, WritesTheLastPageNextToTheClassicExportAndBeepsWhenItCannot
 // The menu keeps its 23 classic actions first and in order, the practice last; each exact action
 // and help topic reaches its command and its text.
 TEST_F(ExaktFensterTest, MenuActionsAndHelpTopicsReachTheExactCommands) {
-    const auto& namen = AppDelegate::menueNamen();
+    std::vector<std::string_view> namen;
+    for (const Menueaktion& aktion : menueaktionen()) {
+        namen.push_back(aktion.name);
+    }
     EXPECT_EQ(namen[0], "TableauLöschen");
     EXPECT_EQ(namen[22], "protoSpeichern");
     const std::vector<std::string_view> exakt(namen.begin() + 23, namen.end());
