@@ -49,7 +49,7 @@ std::optional<std::string> ablegen(const std::pair<Matrix, bool>& wert) {
     if (!wert.second) {
         return std::nullopt;
     }
-    auto [name, ok] = einbuchten(wert.first.smatrix());
+    auto [name, ok] = einbuchten(termZustand().operanden.texteVon(wert.first));
     if (!ok) {
         return std::nullopt;
     }
@@ -288,10 +288,15 @@ void tempNamenEntfernen(const std::string& behalten) {
     auto& liste = listenZustand();
     auto& zustand = termZustand();
     for (const auto& name : zustand.tempNamen) {
-        if (name != behalten) {
-            liste.sMatrixListe.erase(name);
-            liste.smNamen.insert(name);
+        if (name == behalten) {
+            continue;
         }
+        if (const auto eintrag = liste.sMatrixListe.find(name);
+            eintrag != liste.sMatrixListe.end()) {
+            zustand.operanden.zuruecklegen(std::move(eintrag->second));
+            liste.sMatrixListe.erase(eintrag);
+        }
+        liste.smNamen.insert(name);
     }
     zustand.tempNamen.clear();
 }
