@@ -1,6 +1,7 @@
 #include "terms/parser.h"
 #include "textmatrix/liste.h"
 
+#include <cstddef>
 #include <iterator>
 #include <optional>
 #include <string_view>
@@ -48,7 +49,7 @@ std::optional<std::string> ablegen(const std::pair<Matrix, bool>& wert) {
     if (!wert.second) {
         return std::nullopt;
     }
-    auto [name, ok] = einbuchten(wert.first.smatrix());
+    auto [name, ok] = einbuchten(termZustand().operanden.texteVon(wert.first));
     if (!ok) {
         return std::nullopt;
     }
@@ -235,38 +236,45 @@ NamenErgebnis termAuswerten(Zeichenfeld term, bool ok) {
 }
 
 Zeichenfeld klammernAufloesen(Zeichenfeld term) {
-    // The term right of the scan, already freed of its brackets, back to front: back() is its
-    // first token.
-    Zeichenfeld rechts;
-    rechts.reserve(term.size());
+    // The term right of the scan, already freed of its brackets, is kept in the back of `term`
+    // itself, from index `rest` on: a long term is not copied into a second vector of the same
+    // size, whose fresh pages cost more than the scan (the KlammernNebeneinander benchmark).
+    // Tokens only ever move right, so the scan never meets a token it has moved.
+    auto rest = term.size();
     for (auto i = term.size(); i-- > 0;) {
         if (term[i] != "(") {
-            rechts.push_back(std::move(term[i]));
+            if (--rest != i) {
+                term[rest] = std::move(term[i]);
+            }
             continue;
         }
         // Every "(" right of this one is gone, so this is the last "(" of the term, and its core
         // reaches to the first ")" after it.
-        Zeichenfeld kern;
-        while (!rechts.empty() && rechts.back() != ")") {
-            kern.push_back(std::move(rechts.back()));
-            rechts.pop_back();
+        auto zu = rest;
+        while (zu < term.size() && term[zu] != ")") {
+            ++zu;
         }
-        if (rechts.empty()) {
+        if (zu == term.size()) {
             return {fehlerName}; // unbalanced; parsen checks that before
         }
+        Zeichenfeld kern(std::make_move_iterator(term.begin() + static_cast<std::ptrdiff_t>(rest)),
+                         std::make_move_iterator(term.begin() + static_cast<std::ptrdiff_t>(zu)));
         // A failed core leaves "Fehler" behind, on which the enclosing evaluation fails.
-        rechts.back() = termAuswerten(std::move(kern), true).first;
+        term[zu] = termAuswerten(std::move(kern), true).first;
+        rest = zu;
     }
-    return {std::make_move_iterator(rechts.rbegin()), std::make_move_iterator(rechts.rend())};
+    term.erase(term.begin(), term.begin() + static_cast<std::ptrdiff_t>(rest));
+    return term;
 }
 
 NamenErgebnis parsen(std::string_view kette) {
-    const Zeichenfeld feld = string2ZeichenFeld(kette);
-    bool ok = formelKorrekt(feld);
+    Zeichenfeld t = string2ZeichenFeld(kette);
+    bool ok = formelKorrekt(t);
     if (!ok) {
         termZustand().fehlerListe = syntaxFehler;
     }
-    Zeichenfeld t = gereinigt(feld);
+    // What gereinigt gives, without a second copy of a long term.
+    std::erase_if(t, [](const std::string& zeichen) { return tokenNummer(zeichen) < 0; });
     if (ok) {
         ok = klammernAusgewogen(t);
     }
@@ -280,10 +288,15 @@ void tempNamenEntfernen(const std::string& behalten) {
     auto& liste = listenZustand();
     auto& zustand = termZustand();
     for (const auto& name : zustand.tempNamen) {
-        if (name != behalten) {
-            liste.sMatrixListe.erase(name);
-            liste.smNamen.insert(name);
+        if (name == behalten) {
+            continue;
         }
+        if (const auto eintrag = liste.sMatrixListe.find(name);
+            eintrag != liste.sMatrixListe.end()) {
+            zustand.operanden.zuruecklegen(std::move(eintrag->second));
+            liste.sMatrixListe.erase(eintrag);
+        }
+        liste.smNamen.insert(name);
     }
     zustand.tempNamen.clear();
 }

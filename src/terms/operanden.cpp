@@ -1,6 +1,8 @@
 #include "terms/operanden.h"
+#include "textmatrix/zahltext.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace tabulon {
 
@@ -12,6 +14,25 @@ const Matrix& Operandenspeicher::werte(char buchstabe, const SMatrix& texte) {
         g.belegt = true;
     }
     return g.werte;
+}
+
+SMatrix Operandenspeicher::texteVon(const Matrix& m) {
+    SMatrix texte;
+    if (!frei.empty()) {
+        texte = std::move(frei.back());
+        frei.pop_back();
+    }
+    texte.rows = m.rows;
+    texte.columns = m.columns;
+    texte.grid.resize(m.grid.size());
+    for (std::size_t k = 0; k < m.grid.size(); ++k) {
+        zahlTextIn(texte.grid[k], m.grid[k]); // the text zahlText gives, as smatrix writes it
+    }
+    return texte;
+}
+
+void Operandenspeicher::zuruecklegen(SMatrix texte) {
+    frei.push_back(std::move(texte));
 }
 
 } // namespace tabulon

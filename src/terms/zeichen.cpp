@@ -205,6 +205,9 @@ const char32_t* mehrfachGross(char32_t c) {
 
 std::vector<std::string_view> zeichenZerlegen(std::string_view text) {
     std::vector<std::string_view> zeichen;
+    // At most one character per byte: reserved at once, a long term is not copied again and
+    // again while the vector grows.
+    zeichen.reserve(text.size());
     std::size_t pos = 0;
     while (pos < text.size()) {
         const std::size_t anfang = pos;

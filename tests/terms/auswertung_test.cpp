@@ -211,6 +211,45 @@ TEST_F(Auswertung, GeaenderteOperandenWerdenNeuGelesen) {
     }
 }
 
+// Temporaries are written into the storage of temporaries removed before, which may have been
+// larger or held longer texts: every entry must come out exactly as a fresh conversion writes it,
+// with nothing left of the old texts, whatever sizes follow each other.
+TEST_F(Auswertung, WiederverwendeteTexteWieFrisch) {
+    Operandenspeicher speicher;
+    const auto wert = [](std::int64_t zeilen, std::int64_t spalten, double x) {
+        Matrix m(zeilen, spalten);
+        for (std::size_t k = 0; k < m.grid.size(); ++k) {
+            m.grid[k] = x * static_cast<double>(k + 1);
+        }
+        return m;
+    };
+    for (const Matrix& m : {wert(3, 3, 1.0 / 7.0), wert(1, 2, 1.0), wert(3, 3, -2.0),
+                            wert(2, 1, 1e-300), wert(0, 0, 1.0), wert(2, 2, 0.1)}) {
+        const SMatrix texte = speicher.texteVon(m);
+        EXPECT_EQ(texte, m.smatrix()) << m.rows << "x" << m.columns << " " << m.grid.size();
+        speicher.zuruecklegen(texte);
+    }
+
+    // Through the list: the temporaries of A^-1*B go back to the store when they are removed,
+    // and a later term with other sizes gets the right texts and leaves the list as it was.
+    lege("A", sm(3, 3, {"3", "1", "0", "1", "7", "2", "0", "2", "9"}));
+    lege("B", sm(3, 1, {"1", "2", "3"}));
+    lege("C", sm(1, 1, {"0.5"}));
+    const auto vorher = listenZustand().sMatrixListe;
+    // Every intermediate value is read back from its texts, the inverse too.
+    const SMatrix produkt =
+        (matrix(hoch(matrix(vorher.at("A")), -1).first.smatrix()) * matrix(vorher.at("B")))
+            .smatrix();
+    for (const auto& [term, erwartet] :
+         {std::pair{"A^-1*B", produkt}, {"C+C-C", sm(1, 1, {"0.5"})}, {"A^-1*B", produkt}}) {
+        const auto [name, ok] = parsen(term);
+        ASSERT_TRUE(ok) << term;
+        EXPECT_EQ(listenZustand().sMatrixListe.at(name), erwartet) << term;
+        tempNamenEntfernen();
+        EXPECT_EQ(listenZustand().sMatrixListe, vorher) << term;
+    }
+}
+
 // The result of every n-fold run reaches the target, whether it is a temporary handed over to a
 // new entry (Z) or to an old one (B), or another matrix of the list (A), which must keep its
 // entry. Afterwards the list holds exactly the operands and the target, and the free names are
