@@ -273,8 +273,7 @@ NamenErgebnis parsen(std::string_view kette) {
     if (!ok) {
         termZustand().fehlerListe = syntaxFehler;
     }
-    // What gereinigt gives, without a second copy of a long term.
-    std::erase_if(t, [](const std::string& zeichen) { return tokenNummer(zeichen) < 0; });
+    t = gereinigt(std::move(t)); // in place: a long term is not copied
     if (ok) {
         ok = klammernAusgewogen(t);
     }

@@ -54,7 +54,7 @@ Zeichenfeld string2ZeichenFeld(std::string_view quelle);
 // The same splitting without any mapping: blanks dropped, case kept.
 Zeichenfeld string2ZeichenFeldL(std::string_view quelle);
 // The tokens that belong to the alphabet, in their order.
-Zeichenfeld gereinigt(const Zeichenfeld& feld);
+Zeichenfeld gereinigt(Zeichenfeld feld);
 // The index of the last token equal to `zeichen`, or -1.
 std::int64_t posVonZeichen(const Zeichenfeld& feld, std::string_view zeichen);
 

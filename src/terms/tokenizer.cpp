@@ -103,15 +103,9 @@ Zeichenfeld string2ZeichenFeldL(std::string_view quelle) {
     return feld;
 }
 
-Zeichenfeld gereinigt(const Zeichenfeld& feld) {
-    Zeichenfeld sauber;
-    sauber.reserve(feld.size());
-    for (const auto& zeichen : feld) {
-        if (tokenNummer(zeichen) >= 0) {
-            sauber.push_back(zeichen);
-        }
-    }
-    return sauber;
+Zeichenfeld gereinigt(Zeichenfeld feld) {
+    std::erase_if(feld, [](const std::string& zeichen) { return tokenNummer(zeichen) < 0; });
+    return feld;
 }
 
 std::int64_t posVonZeichen(const Zeichenfeld& feld, std::string_view zeichen) {

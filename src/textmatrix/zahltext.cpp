@@ -261,32 +261,17 @@ double doubleWert(std::string_view text) {
 }
 
 std::optional<int> strengeGanzzahl(std::string_view text) {
-    std::size_t i = 0;
-    bool negativ = false;
-    if (!text.empty() && (text[0] == '+' || text[0] == '-')) {
-        negativ = text[0] == '-';
-        i = 1;
+    // from_chars reads an optional '-' and the digits, and reports a value beyond int; the '+' it
+    // does not know is taken off first, unless a sign follows it.
+    if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
+        text.remove_prefix(1);
     }
-    if (i == text.size()) {
+    int wert = 0;
+    const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), wert);
+    if (fehler != std::errc() || ende != text.data() + text.size()) {
         return std::nullopt;
     }
-    long long wert = 0;
-    for (; i < text.size(); ++i) {
-        if (text[i] < '0' || text[i] > '9') {
-            return std::nullopt;
-        }
-        wert = wert * 10 + (text[i] - '0');
-        if (wert > static_cast<long long>(INT_MAX) + 1) {
-            return std::nullopt;
-        }
-    }
-    if (negativ) {
-        wert = -wert;
-    }
-    if (wert > INT_MAX || wert < INT_MIN) {
-        return std::nullopt;
-    }
-    return static_cast<int>(wert);
+    return wert;
 }
 
 } // namespace tabulon

@@ -238,6 +238,10 @@ TEST(Zahltext, FeldWerteSaettigenOderLehnenAb) {
     EXPECT_EQ(intWert("-99999999999999999999"), std::numeric_limits<int>::min());
     EXPECT_EQ(strengeGanzzahl("2147483648"), std::nullopt);
     EXPECT_EQ(strengeGanzzahl("-2147483648"), std::numeric_limits<int>::min());
+    EXPECT_EQ(strengeGanzzahl("+7"), 7);
+    for (const char* keine : {"", "+", "-", "+-7", "-+7", "++7", " 7", "7 ", "0x7", "7.0"}) {
+        EXPECT_EQ(strengeGanzzahl(keine), std::nullopt) << keine;
+    }
     EXPECT_EQ(doubleWert("1,5e3"), 1.0);
 }
 
