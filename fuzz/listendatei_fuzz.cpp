@@ -67,7 +67,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t gro
         pruefe(m.grid.size() == static_cast<std::size_t>(m.rows * m.columns),
                "every loaded matrix holds rows x columns entries");
         pruefe(l.smNamen.count(name) == 0, "a listed name is not free");
-        pruefe(!tex(name).empty(), "every listed matrix has a TeX block");
+        pruefe(!tex(name, l.dezimalen).empty(), "every listed matrix has a TeX block");
     }
     for (const std::string& x : alphabetGross()) {
         pruefe((l.smNamen.count(x) == 1) != (l.sMatrixListe.count(x) == 1),
