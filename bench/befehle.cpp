@@ -40,14 +40,7 @@ void befehl(benchmark::State& state, void (ViewController::*aktion)()) {
         return;
     }
     vc.eingabeFb = "A";
-    for (auto _ : state) {
-        (vc.*aktion)();
-        benchmark::DoNotOptimize(vc.notizF);
-        bench::protokollKurzHalten(state);
-    }
-    if (plattform.piepse != 0) {
-        state.SkipWithError(vc.notizF.c_str());
-    }
+    bench::befehlMessen(state, vc, plattform, aktion);
 }
 
 void Transponiere(benchmark::State& state) {
@@ -80,14 +73,7 @@ void Runden(benchmark::State& state) {
     });
     vc.eingabeFb = "A";
     vc.invertiere();
-    for (auto _ : state) {
-        vc.rundenB();
-        benchmark::DoNotOptimize(vc.notizF);
-        bench::protokollKurzHalten(state);
-    }
-    if (plattform.piepse != 0) {
-        state.SkipWithError(vc.notizF.c_str());
-    }
+    bench::befehlMessen(state, vc, plattform, &ViewController::rundenB);
 }
 void CharPol(benchmark::State& state) {
     befehl(state, &ViewController::charPol);

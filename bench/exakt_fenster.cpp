@@ -25,14 +25,7 @@ void befehl(benchmark::State& state, void (ViewController::*aktion)(), Art art) 
     vc.eingabeFb = "A";
     // The export needs a page; it is the answer of the command that the menu would run before.
     vc.exaktEigen();
-    for (auto _ : state) {
-        (vc.*aktion)();
-        benchmark::DoNotOptimize(vc.notizF);
-        bench::protokollKurzHalten(state);
-    }
-    if (plattform.piepse != 0) {
-        state.SkipWithError(vc.notizF.c_str());
-    }
+    bench::befehlMessen(state, vc, plattform, aktion);
 }
 
 BENCHMARK_CAPTURE(befehl, gaussGanz, &ViewController::exaktGauss, Art::ganz)

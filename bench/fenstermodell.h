@@ -52,4 +52,18 @@ inline void protokollKurzHalten(benchmark::State& state) {
     }
 }
 
+// Runs `aktion` in the benchmark's loop. A command that beeped was refused and measured nothing
+// worth a time: the run is reported as an error with the refusal's note.
+inline void befehlMessen(benchmark::State& state, ViewController& vc,
+                         const StillePlattform& plattform, void (ViewController::*aktion)()) {
+    for (auto _ : state) {
+        (vc.*aktion)();
+        benchmark::DoNotOptimize(vc.notizF);
+        protokollKurzHalten(state);
+    }
+    if (plattform.piepse != 0) {
+        state.SkipWithError(vc.notizF.c_str());
+    }
+}
+
 } // namespace tabulon::bench

@@ -2,21 +2,10 @@
 
 #include <utility>
 
+#include "exakt/befehlhilfen.h"
 #include "textmatrix/zahltext.h"
 
 namespace tabulon {
-
-namespace {
-
-std::string nummer(std::size_t n) {
-    return ganzText(static_cast<std::int64_t>(n));
-}
-
-std::string groesse(const BMatrix& m) {
-    return nummer(m.rows) + " × " + nummer(m.columns);
-}
-
-} // namespace
 
 Uebung::Uebung(std::string name, BMatrix start) : name(std::move(name)), start(std::move(start)) {}
 
@@ -44,13 +33,13 @@ Tipp naechsterSchritt(const BMatrix& m) {
             continue;
         Tipp t;
         t.operation = s.operationen.front();
-        const std::string spalte = "Spalte " + nummer(s.spalte + 1);
-        const std::string zeile = "Zeile " + nummer(s.zeile + 1);
+        const std::string spalte = "Spalte " + zahl(s.spalte + 1);
+        const std::string zeile = "Zeile " + zahl(s.zeile + 1);
         switch (t.operation.art) {
         case Zeilenoperation::Art::tausch:
             t.grund = spalte + " braucht ein Pivot in " + zeile +
                       ": dort steht 0, der erste Eintrag ≠ 0 darunter steht in Zeile " +
-                      nummer(s.gefunden + 1) + ".";
+                      zahl(s.gefunden + 1) + ".";
             break;
         case Zeilenoperation::Art::skalieren:
             t.grund = spalte + ": das Pivot in " + zeile + " ist " + bruchText(s.pivot) +
@@ -59,7 +48,7 @@ Tipp naechsterSchritt(const BMatrix& m) {
         case Zeilenoperation::Art::addieren: {
             const std::size_t r = t.operation.ziel;
             t.grund = spalte + ": " + (r < s.zeile ? "über" : "unter") + " dem Pivot in " + zeile +
-                      " steht in Zeile " + nummer(r + 1) + " noch " + bruchText(m(r, s.spalte)) +
+                      " steht in Zeile " + zahl(r + 1) + " noch " + bruchText(m(r, s.spalte)) +
                       "; dieser Eintrag soll 0 werden.";
             break;
         }
@@ -108,7 +97,7 @@ std::string pruefText(const Stufenform& s) {
                         ? "Die Matrix ist in Zeilenstufenform, aber noch nicht in reduzierter "
                           "Zeilenstufenform."
                         : "Die Matrix ist noch nicht in Zeilenstufenform.";
-    return t + " Rang: " + nummer(s.rang) + ".";
+    return t + " Rang: " + zahl(s.rang) + ".";
 }
 
 Vergleich vergleiche(const BMatrix& a, const BMatrix& b) {
@@ -126,11 +115,11 @@ Seite uebungsSeite(const Uebung& u) {
     s.zeile("Zeilenumformungen an " + u.name + " (" + groesse(u.start) + ")").leer();
     s.zeile("Startmatrix:").matrix(u.start);
     for (std::size_t i = 0; i < u.schritte.size(); ++i) {
-        s.leer().zeile(Zeile("Schritt " + nummer(i + 1) + ": ") << u.schritte[i].text());
+        s.leer().zeile(Zeile("Schritt " + zahl(i + 1) + ": ") << u.schritte[i].text());
         s.matrix(u.verlauf[i]);
     }
     const Stufenform f = pruefe(u.aktuell());
-    s.leer().zeile("Nach " + nummer(u.schritte.size()) +
+    s.leer().zeile("Nach " + zahl(u.schritte.size()) +
                    (u.schritte.size() == 1 ? " Schritt: " : " Schritten: ") + pruefText(f));
     return s;
 }

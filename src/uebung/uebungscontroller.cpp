@@ -1,8 +1,11 @@
 #include "uebung/uebungscontroller.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "exakt/befehle.h"
+#include "exakt/befehlhilfen.h"
 #include "files/dokumente.h"
 #include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
@@ -11,14 +14,6 @@
 namespace tabulon {
 
 namespace {
-
-std::string nummer(std::size_t n) {
-    return ganzText(static_cast<std::int64_t>(n));
-}
-
-std::string groesse(const BMatrix& m) {
-    return nummer(m.rows) + " × " + nummer(m.columns);
-}
 
 // Matrix names are the letters A ... Z; a lower-case letter means the same matrix, as in 'Name'.
 std::string grossBuchstaben(std::string s) {
@@ -56,15 +51,6 @@ constexpr UC::Feld feldTabelle[] = {
     {"vergleichF", &UC::vergleichF},
 };
 
-template <typename T> const T* finde(std::span<const T> tabelle, std::string_view name) {
-    for (const T& eintrag : tabelle) {
-        if (eintrag.name == name) {
-            return &eintrag;
-        }
-    }
-    return nullptr;
-}
-
 } // namespace
 
 std::span<const UC::Knopf> UebungsController::knoepfe() {
@@ -76,11 +62,13 @@ std::span<const UC::Feld> UebungsController::felder() {
 }
 
 const UC::Knopf* UebungsController::knopf(std::string_view name) {
-    return finde(knoepfe(), name);
+    const auto k = std::ranges::find(knopfTabelle, name, &Knopf::name);
+    return k == std::end(knopfTabelle) ? nullptr : k;
 }
 
 const UC::Feld* UebungsController::feld(std::string_view name) {
-    return finde(felder(), name);
+    const auto f = std::ranges::find(feldTabelle, name, &Feld::name);
+    return f == std::end(feldTabelle) ? nullptr : f;
 }
 
 bool UebungsController::fensterAktion(std::string_view name) {
@@ -106,7 +94,7 @@ void UebungsController::umformenB() {
     }
     uebung.umformen(l.operation);
     umformungF.clear();
-    notizF = "Schritt " + nummer(uebung.schritte.size()) + ": " + l.operation.text().text();
+    notizF = "Schritt " + zahl(uebung.schritte.size()) + ": " + l.operation.text().text();
     notizF += pruefe(uebung.aktuell()).reduziert
                   ? ". Die Matrix ist jetzt in reduzierter Zeilenstufenform."
                   : ".";
@@ -120,7 +108,7 @@ void UebungsController::rueckgaengigB() {
     const std::string text = uebung.schritte.back().text().text();
     const std::size_t n = uebung.schritte.size();
     uebung.rueckgaengig();
-    notizF = "Schritt " + nummer(n) + " (" + text + ") ist rückgängig gemacht.";
+    notizF = "Schritt " + zahl(n) + " (" + text + ") ist rückgängig gemacht.";
 }
 
 void UebungsController::tippB() {
@@ -189,7 +177,7 @@ void UebungsController::texB() {
 std::vector<std::string> UebungsController::schrittTexte() const {
     std::vector<std::string> texte;
     for (std::size_t i = 0; i < uebung.schritte.size(); ++i)
-        texte.push_back(nummer(i + 1) + ". " + uebung.schritte[i].text().text());
+        texte.push_back(zahl(i + 1) + ". " + uebung.schritte[i].text().text());
     return texte;
 }
 
