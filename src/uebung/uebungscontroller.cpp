@@ -7,23 +7,12 @@
 #include "exakt/befehle.h"
 #include "exakt/befehlhilfen.h"
 #include "files/dokumente.h"
+#include "terms/zeichen.h"
 #include "textmatrix/liste.h"
 #include "textmatrix/zahltext.h"
 #include "uebung/zeilenparser.h"
 
 namespace tabulon {
-
-namespace {
-
-// Matrix names are the letters A ... Z; a lower-case letter means the same matrix, as in 'Name'.
-std::string grossBuchstaben(std::string s) {
-    for (char& c : s)
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    return s;
-}
-
-} // namespace
 
 UebungsController::UebungsController(Plattform& plattform, Uebung uebung, InsTableau insTableau)
     : uebung(std::move(uebung)), plattform(plattform), insTableau(std::move(insTableau)) {
@@ -127,7 +116,8 @@ void UebungsController::pruefenB() {
 }
 
 void UebungsController::vergleichenB() {
-    vergleichF = grossBuchstaben(vergleichF);
+    // A lower-case letter names the same matrix, upper-cased as the name field is.
+    vergleichF = grossGeschrieben(vergleichF);
     const std::string& name = vergleichF;
     const auto& liste = listenZustand().sMatrixListe;
     const auto gefunden = liste.find(name);
