@@ -48,8 +48,4 @@ std::string exaktTexErfolgNotiz(const std::string& name);
 std::string exaktTexKeineSeiteNotiz(const std::string& name);
 inline const std::string exaktTexFehlerNotiz = "Da hat irgendetwas nicht funktioniert.";
 
-// The note for a name that is not in the list (beep, nothing else changes): the words of the
-// classic commands that take any matrix, so both menus answer a missing name alike.
-inline const std::string exaktNameFehltNotiz = "Bitte Namen einer Matrix im Feld 'Name' angeben.";
-
 } // namespace tabulon

@@ -18,14 +18,11 @@ using ExaktBefehl = ExaktAntwort (*)(const std::string&, const SMatrix&);
 // shown nor kept, so a later TeX export still writes the last page that was answered.
 void exaktAusfuehren(ViewController& vc, ExaktBefehl befehl) {
     const std::string name = vc.liesName();
-    const auto& liste = listenZustand().sMatrixListe;
-    const auto gefunden = liste.find(name);
-    if (gefunden == liste.end()) {
-        vc.plattform.piep();
-        vc.notiz(exaktNameFehltNotiz);
+    const SMatrix* m = vc.gelisteteMatrix(name);
+    if (m == nullptr) {
         return;
     }
-    const ExaktAntwort antwort = befehl(name, gefunden->second);
+    const ExaktAntwort antwort = befehl(name, *m);
     if (!antwort.ok) {
         vc.plattform.piep();
         vc.notiz(antwort.notiz);

@@ -115,7 +115,7 @@ void ViewController::orthonormiere() {
     const auto m = gespeicherteMatrix(name);
     if (!m) {
         plattform.piep();
-        notiz("Bitte Namen einer Matrix im Feld 'Name' angeben.");
+        notiz(nameFehltNotiz);
         return;
     }
     const auto o = matrix2ONB(*m);

@@ -11,14 +11,11 @@ namespace tabulon {
 
 void ViewController::exaktUeben() {
     const std::string name = liesName();
-    const auto& liste = listenZustand().sMatrixListe;
-    const auto gefunden = liste.find(name);
-    if (gefunden == liste.end()) {
-        plattform.piep();
-        notiz(exaktNameFehltNotiz);
+    const SMatrix* m = gelisteteMatrix(name);
+    if (m == nullptr) {
         return;
     }
-    const BLesung l = liesBMatrix(name, gefunden->second);
+    const BLesung l = liesBMatrix(name, *m);
     if (!l.ok) {
         plattform.piep();
         notiz(l.notiz);

@@ -139,6 +139,17 @@ std::string ViewController::liesName() {
     return eingabeFb;
 }
 
+const SMatrix* ViewController::gelisteteMatrix(const std::string& name) {
+    const auto& liste = listenZustand().sMatrixListe;
+    const auto gefunden = liste.find(name);
+    if (gefunden == liste.end()) {
+        plattform.piep();
+        notiz(nameFehltNotiz);
+        return nullptr;
+    }
+    return &gefunden->second;
+}
+
 void ViewController::aktualisiereMListe() {
     mListeF = aktuelleListe();
 }

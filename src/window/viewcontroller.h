@@ -26,6 +26,9 @@
 namespace tabulon {
 
 struct Matrix;
+
+// The note of a command whose 'Name' names no matrix of the list.
+inline const std::string nameFehltNotiz = "Bitte Namen einer Matrix im Feld 'Name' angeben.";
 class UebungsController;
 
 struct Zelle {
@@ -90,6 +93,9 @@ public:
     void notiz(const std::string& t);
     void notizloeschen();
     std::string liesName();
+    // The text matrix listed under `name`; when there is none, the beep, the note asking for a
+    // name, and nullptr.
+    const SMatrix* gelisteteMatrix(const std::string& name);
     void aktualisiereMListe();
     void sollEingeben();
     void hatEingegeben();
