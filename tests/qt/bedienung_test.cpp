@@ -164,11 +164,18 @@ private slots:
 
     void nichtZahlenMarkiert() {
         const std::pair<const char*, Eintragsart> arten[] = {
-            {"1.5", Eintragsart::zahl},         {"", Eintragsart::leer},
-            {"        ", Eintragsart::leer},    {"         ", Eintragsart::keineZahl},
-            {"1,5", Eintragsart::dezimalkomma}, {" 1,5", Eintragsart::dezimalkomma},
-            {"1,5 ", Eintragsart::keineZahl},   {"1,2,3", Eintragsart::keineZahl},
-            {"1.2,3", Eintragsart::keineZahl},  {"1/2", Eintragsart::keineZahl},
+            {"1.5", Eintragsart::zahl},
+            {"-2e3", Eintragsart::zahl},
+            {"-2,5e3", Eintragsart::dezimalkomma},
+            {"", Eintragsart::leer},
+            {"        ", Eintragsart::leer},
+            {"         ", Eintragsart::keineZahl},
+            {"1,5", Eintragsart::dezimalkomma},
+            {" 1,5", Eintragsart::dezimalkomma},
+            {"1,5 ", Eintragsart::keineZahl},
+            {"1,2,3", Eintragsart::keineZahl},
+            {"1.2,3", Eintragsart::keineZahl},
+            {"1/2", Eintragsart::keineZahl},
             {"1e999", Eintragsart::keineZahl},
         };
         for (const auto& [text, art] : arten) {
