@@ -23,11 +23,9 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSlider>
-#include <QTimer>
 #include <QtTest>
 
 #include <memory>
@@ -195,24 +193,6 @@ private slots:
         a.fenster->menueAktion("genEinheitsmatrix");
         QCOMPARE(a.fenster->tableauWidget()->sichtbarerBlockText(),
                  QStringLiteral("1.0\t0.0\n0.0\t1.0\n"));
-    }
-
-    // The question returns the button pressed, found by its text.
-    void frageLiefertDenGedruecktenKnopf() {
-        QtPlattform plattform;
-        for (const QString& knopf : {QStringLiteral("Ja"), QStringLiteral("Nein, lieber nicht")}) {
-            QTimer::singleShot(0, [knopf] {
-                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                QVERIFY(box);
-                for (QAbstractButton* k : box->buttons()) {
-                    if (k->text() == knopf) {
-                        k->click();
-                    }
-                }
-            });
-            QCOMPARE(plattform.frage("Wirklich?", "Ja", "Nein, lieber nicht"),
-                     knopf == "Ja" ? Plattform::ersterKnopf : Plattform::zweiterKnopf);
-        }
     }
 
     // A click beeps unless Shift is held; dragging beeps on every move with a button held.
